@@ -1,0 +1,1 @@
+# Benchmarks: one program a job, each prints a ratio measured in one run.

@@ -1,0 +1,1 @@
+# The reader: speaks sentences through the speech service of the desktop.

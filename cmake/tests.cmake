@@ -1,0 +1,10 @@
+# The tests: one doctest program over the core, headless.
+find_package(doctest REQUIRED)
+include(doctest)
+file(GLOB_RECURSE TESTS CONFIGURE_DEPENDS tests/*.cpp)
+list(FILTER TESTS EXCLUDE REGEX "/tests/(desktop|speech|fuzz)/")
+add_executable(zelko_tests ${TESTS})
+target_include_directories(zelko_tests PRIVATE tests)
+target_link_libraries(zelko_tests PRIVATE zelko_core doctest::doctest)
+target_compile_definitions(zelko_tests PRIVATE ZELKO_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+doctest_discover_tests(zelko_tests)
