@@ -9,11 +9,11 @@ namespace zelko {
 
 // Where the sentences go besides the clipboard and the windows; each may stay empty.
 struct DesktopHooks {
-  std::function<void(TextView)> onSentence;    // a sentence was put on the clipboard
-  std::function<void(TextView)> onAgent;       // the talking character speaks
-  std::function<void()> onAgentStop;           // and falls silent
-  std::function<void(TextView)> onAgentFile;   // another character was loaded, by its file
-  std::function<void()> onEnd;                 // the program is about to end: let the last sentence out
+  std::function<void(TextView)> onSentence;   // a sentence was put on the clipboard
+  std::function<void(TextView)> onAgent;      // the talking character speaks
+  std::function<void()> onAgentStop;          // and falls silent
+  std::function<void(TextView)> onAgentFile;  // another character was loaded, by its file
+  std::function<void()> onEnd;                // the program is about to end: let the last sentence out
 };
 DesktopHooks& desktopHooks();
 

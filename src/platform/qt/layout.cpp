@@ -49,8 +49,10 @@ bool growsDown(ControlKind kind) {
     case ControlKind::driveBox:
     case ControlKind::folderBox:
     case ControlKind::fileBox:
-    case ControlKind::grid: return true;
-    default: return false;
+    case ControlKind::grid:
+      return true;
+    default:
+      return false;
   }
 }
 

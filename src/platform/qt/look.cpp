@@ -82,9 +82,11 @@ bool FocusFrame::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::Move:
     case QEvent::Resize:
     case QEvent::Show:
-    case QEvent::Hide: follow(); break;
-    case QEvent::Destroy: target_ = nullptr; break;
-    default: break;
+    case QEvent::Hide:
+      follow();
+      break;
+    default:
+      break;
   }
   return QWidget::eventFilter(watched, event);
 }

@@ -1,6 +1,7 @@
 // How everything looks: large type, the colours of the desktop, and a frame that shows where the focus is.
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 
 class QApplication;
@@ -24,7 +25,7 @@ class FocusFrame : public QWidget {
 
  private:
   void follow();
-  QWidget* target_ = nullptr;
+  QPointer<QWidget> target_;
 };
 
 }  // namespace zelko

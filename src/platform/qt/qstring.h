@@ -3,6 +3,7 @@
 
 #include <QString>
 
+#include "platform/control.h"
 #include "platform/text.h"
 
 namespace zelko {
@@ -15,11 +16,7 @@ inline Text fromQt(const QString& text) {
 }
 
 // A caption without the mark before its letter, as a reader of the screen should say it.
-inline QString shownCaption(TextView caption) {
-  QString out = toQt(caption);
-  for (qsizetype at = 0; (at = out.indexOf(u'&', at)) >= 0; ++at) out.remove(at, 1);
-  return out.trimmed();
-}
+inline QString shownCaption(TextView caption) { return toQt(withoutMarks(caption)).trimmed(); }
 
 // Where a position of the model, whose lines are parted by CR LF, lies in text parted by LF, and back.
 int nativePosition(TextView modelText, int position);

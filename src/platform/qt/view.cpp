@@ -29,7 +29,8 @@ void makeLabel(View& view, QWidget* parent) {
     label->setText(shownCaption(view.control.caption()));
     const QFontMetrics metrics(label->font());
     const int longest = metrics.horizontalAdvance(u'0') * kLongestLabelLine;
-    label->setMinimumWidth(std::min(metrics.boundingRect({}, 0, label->text()).width() + metrics.height() / 2, longest));
+    label->setMinimumWidth(
+        std::min(metrics.boundingRect({}, 0, label->text()).width() + metrics.height() / 2, longest));
   };
 }
 
@@ -105,20 +106,31 @@ void showWidth(QWidget& widget, const Control& control) {
 void makeKind(View& view, QWidget* parent) {
   switch (view.control.kind()) {
     case ControlKind::textBox:
-    case ControlKind::richTextBox: return makeTextView(view, parent);
-    case ControlKind::label: return makeLabel(view, parent);
-    case ControlKind::checkBox: return makeButton(view, new QCheckBox(parent));
-    case ControlKind::optionButton: return makeButton(view, new QRadioButton(parent));
-    case ControlKind::commandButton: return makeButton(view, new QPushButton(parent));
-    case ControlKind::comboBox: return makeComboView(view, parent);
+    case ControlKind::richTextBox:
+      return makeTextView(view, parent);
+    case ControlKind::label:
+      return makeLabel(view, parent);
+    case ControlKind::checkBox:
+      return makeButton(view, new QCheckBox(parent));
+    case ControlKind::optionButton:
+      return makeButton(view, new QRadioButton(parent));
+    case ControlKind::commandButton:
+      return makeButton(view, new QPushButton(parent));
+    case ControlKind::comboBox:
+      return makeComboView(view, parent);
     case ControlKind::listBox:
     case ControlKind::driveBox:
     case ControlKind::folderBox:
-    case ControlKind::fileBox: return makeListView(view, parent);
-    case ControlKind::pictureBox: return makePictureView(view, parent);
-    case ControlKind::grid: return makeGridView(view, parent);
-    case ControlKind::timer: return makeTimer(view, parent);
-    case ControlKind::frame: return makeFrame(view, parent);
+    case ControlKind::fileBox:
+      return makeListView(view, parent);
+    case ControlKind::pictureBox:
+      return makePictureView(view, parent);
+    case ControlKind::grid:
+      return makeGridView(view, parent);
+    case ControlKind::timer:
+      return makeTimer(view, parent);
+    case ControlKind::frame:
+      return makeFrame(view, parent);
   }
 }
 
@@ -147,15 +159,21 @@ void pushTo(View& view, Property property) {
   if (!view.widget) return;
   QWidget& widget = *view.widget;
   switch (property) {
-    case Property::caption: return widget.setAccessibleName(accessibleNameOf(view.control));
-    case Property::enabled: return widget.setEnabled(view.control.enabled());
-    case Property::visible: return widget.setVisible(view.control.visible());
-    case Property::colour: return showColours(widget, view.control);
-    case Property::width: return showWidth(widget, view.control);
+    case Property::caption:
+      return widget.setAccessibleName(accessibleNameOf(view.control));
+    case Property::enabled:
+      return widget.setEnabled(view.control.enabled());
+    case Property::visible:
+      return widget.setVisible(view.control.visible());
+    case Property::colour:
+      return showColours(widget, view.control);
+    case Property::width:
+      return showWidth(widget, view.control);
     case Property::toolTip:
       widget.setToolTip(toQt(view.control.toolTip()));
       return widget.setAccessibleDescription(toQt(view.control.toolTip()));
-    default: return;
+    default:
+      return;
   }
 }
 

@@ -38,8 +38,8 @@ QString accessibleNameOf(const Control& control);
 double pixelsPerTwip(const QWidget& widget);
 
 // Makers of the kinds; they set widget, push, report and detach.
-void makeTextView(View& view, QWidget* parent);     // text box, rich text box
-void makeListView(View& view, QWidget* parent);     // list, drive, folder and file box
+void makeTextView(View& view, QWidget* parent);  // text box, rich text box
+void makeListView(View& view, QWidget* parent);  // list, drive, folder and file box
 void makeComboView(View& view, QWidget* parent);
 void makeGridView(View& view, QWidget* parent);
 void makePictureView(View& view, QWidget* parent);

@@ -29,10 +29,18 @@ void paint(QPainter& painter, const Operation& o) {
   painter.setPen(pen);
   const QRectF box = QRectF(QPointF(o.x1, o.y1), QPointF(o.x2, o.y2)).normalized();
   switch (o.stroke) {
-    case Stroke::line: painter.drawLine(QPointF(o.x1, o.y1), QPointF(o.x2, o.y2)); break;
-    case Stroke::box: painter.drawRect(box); break;
-    case Stroke::filledBox: painter.fillRect(box, colour); break;
-    case Stroke::circle: painter.drawEllipse(QPointF(o.x1, o.y1), o.x2, o.x2); break;
+    case Stroke::line:
+      painter.drawLine(QPointF(o.x1, o.y1), QPointF(o.x2, o.y2));
+      break;
+    case Stroke::box:
+      painter.drawRect(box);
+      break;
+    case Stroke::filledBox:
+      painter.fillRect(box, colour);
+      break;
+    case Stroke::circle:
+      painter.drawEllipse(QPointF(o.x1, o.y1), o.x2, o.x2);
+      break;
     case Stroke::text: {
       const QPointF at = painter.transform().map(QPointF(o.x1, o.y1));
       painter.resetTransform();

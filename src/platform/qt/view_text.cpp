@@ -82,7 +82,7 @@ Edited editedLines(const QPlainTextEdit& edit, const TextBox& box) {
   const QTextCursor cursor = edit.textCursor();
   Edited now;
   // Untouched, it keeps its own line ends, whatever they are.
-  now.text = text == linesByLf(box.content()) ? box.content() : fromQt(QString(text).replace(u'\n', u"\r\n"));
+  now.text = text == linesByLf(box.content()) ? box.content() : fromQt(QString(text).replace(u'\n', QLatin1String("\r\n")));
   now.start = modelPosition(text, cursor.selectionStart());
   now.length = modelPosition(text, cursor.selectionEnd()) - now.start;
   return now;
