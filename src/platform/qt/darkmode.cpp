@@ -27,9 +27,9 @@ bool desktopIsDark() {
 }
 
 QPalette darkPalette() {
-  QPalette palette(QColor(0x20, 0x20, 0x20));
-  palette.setColor(QPalette::Base, QColor(0x10, 0x10, 0x10));
-  palette.setColor(QPalette::AlternateBase, QColor(0x2C, 0x2C, 0x2C));
+  QPalette palette(QColor(0x5C, 0x5C, 0x5C), QColor(0x38, 0x38, 0x38));
+  palette.setColor(QPalette::Base, QColor(0x08, 0x08, 0x08));
+  palette.setColor(QPalette::AlternateBase, QColor(0x28, 0x28, 0x28));
   palette.setColor(QPalette::Highlight, QColor(0xFF, 0xD8, 0x00));
   palette.setColor(QPalette::HighlightedText, Qt::black);
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
