@@ -55,7 +55,10 @@ class Dialog : public Form {
 class Desk {
  public:
   Desk() { setHost(&host); }
-  ~Desk() { screen().reset(); }
+  ~Desk() {
+    host.closeWindows();
+    screen().reset();
+  }
 
   // Sends a key as the display does: to the window, through the queue.
   static void send(QEvent::Type type, int qtKey, Qt::KeyboardModifiers modifiers = {}, const QString& text = {});

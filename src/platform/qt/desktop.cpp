@@ -56,6 +56,7 @@ int runDesktop(int argc, char** argv, const std::function<void()>& startProgram)
   setHost(&host);
   const int status = runProgram(host, startProgram);
   fire(desktopHooks().onEnd);
+  host.closeWindows();
   screen().reset();
   return status;
 }
