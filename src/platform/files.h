@@ -64,6 +64,8 @@ bool folderExists(TextView path);
 FileError deleteFile(TextView path);
 FileError renameFile(TextView from, TextView to);  // refuses a target that exists
 FileError copyFile(TextView from, TextView to);    // replaces the target
+// Gives `from` the name of `to` and its permissions, in one step: at every moment `to` is the old file or the new one.
+FileError replaceFile(TextView from, TextView to);
 FileError makeDirectory(TextView path);
 
 // The read-only attribute is the owner's write permission bit, read from the mode, not tried.
