@@ -48,9 +48,10 @@ void frmCMSG::frmCMSG_button_KeyDown(const Button& button, KeyEvent& key) {
 }
 
 void frmCMSG::frmCMSG_button_KeyPress(CharEvent& event) {
-  const char16_t ch = event.ch;
-  if (ch == u'Y' || ch == u'y') cmdYES.onClick();
-  if (ch == u'N' || ch == u'n') cmdNO.onClick();
+  const Text ch = upperCase(Text(1, event.ch));
+  if (ch != u"Y" && ch != u"N") return;
+  event.ch = 0;
+  close(ch == u"Y" ? kYes : kNo);
 }
 
 void frmCMSG::close(std::int16_t answer) {

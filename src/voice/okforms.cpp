@@ -9,10 +9,12 @@ namespace zelko {
 namespace {
 
 // The wait lets the sentence through behind that of the event that opened the form.
-void sayOnOpening(const Text& sentence) {
+void sayOnOpening(const Text& message, TextView whatToDo) {
   if (talkMode == 0) return;
   waitSec(talkGap);
-  talkGated(sentence);
+  if (!gateOpens()) return;
+  ++composedSentences;
+  talkNow(message + Text(whatToDo));
 }
 
 // What a button repeats: its caption comes in front by itself.
@@ -34,7 +36,7 @@ FrmOK::FrmOK() : Form(kName, u""), Label1(*this, u"Label1", u""), Command1(*this
   Narration(*this).explain(explanation(Label1)).say(Command1, messageAgain(Label1));
 }
 
-void FrmOK::FrmOK_Activate() { sayOnOpening(Label1.caption() + u"。OKならCRを叩いてください。"); }
+void FrmOK::FrmOK_Activate() { sayOnOpening(Label1.caption(), u"。OKならCRを叩いてください。"); }
 
 void FrmOK::FrmOK_Command1_Click() { screen().unload(*this); }
 
@@ -52,7 +54,7 @@ frmOKCAN::frmOKCAN()
 }
 
 void frmOKCAN::frmOKCAN_Activate() {
-  sayOnOpening(Label1.caption() + u"。OKならCRを､キャンセルならESCを叩いてください。");
+  sayOnOpening(Label1.caption(), u"。OKならCRを､キャンセルならESCを叩いてください。");
 }
 
 void frmOKCAN::close(bool answer) {
@@ -74,7 +76,7 @@ FrmRepeat::FrmRepeat()
   Narration(*this).explain([this] { return Label1.caption(); }).say(Command1, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ").say(Command2, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ");
 }
 
-void FrmRepeat::FrmRepeat_Activate() { sayOnOpening(result + markStop + Label1.caption()); }
+void FrmRepeat::FrmRepeat_Activate() { sayOnOpening(result + markStop, Label1.caption()); }
 
 void FrmRepeat::FrmRepeat_Command1_Click() { talkGated(result); }
 
