@@ -14,9 +14,7 @@ std::map<Text, std::function<void()>, std::less<>>& table() {
 
 }  // namespace
 
-void registerCommand(TextView menuName, std::function<void()> command) {
-  table()[Text(menuName)] = std::move(command);
-}
+void registerCommand(TextView menuName, std::function<void()> command) { table()[Text(menuName)] = std::move(command); }
 
 const std::function<void()>& commandOf(TextView menuName) {
   static const std::function<void()> none;

@@ -8,24 +8,8 @@
 #include "voice/talk.h"
 
 namespace zelko {
-namespace {
-
-bool failureTold = false;
-
-}  // namespace
-
-void beginMove() { failureTold = false; }
-
-void flushForMove() {
-  if (failureTold) {
-    failureTold = false;
-    return;
-  }
-  flushRec();
-}
 
 void commitCell() {
-  failureTold = false;
   setCell(currentRow(), curItem, form<Form1>().txtinputbox.content());
   dispAll(curItem);
 }
@@ -34,7 +18,7 @@ void commitBox() {
   MoveScope move;
   bool holdsText = !trimmed(form<Form1>().txtinputbox.content()).empty();
   if (holdsText) commitCell();
-  failureTold = !flushRec();
+  flushRec();
   if (holdsText) emptyInputBox();
 }
 

@@ -17,10 +17,6 @@ class MoveScope {
   std::int16_t kept_;
 };
 
-// A new key: a write failure is told again.
-void beginMove();
-// flushRec, unless commitBox has just met a write failure of this row and told it.
-void flushForMove();
 // The given text in place of what the box holds, unheard; the echo memory takes it over.
 void setInputSilently(TextView text);
 void focusInputBox();

@@ -52,6 +52,13 @@ bool stepItem() {
   return allItemsOn != 1 && curRec != before;
 }
 
+void stepBack() {
+  --curRec;
+  if (autoIdOn != 1) return;
+  autoIdValue -= 1;
+  stampId();
+}
+
 }  // namespace
 
 void nextItem() {
@@ -81,7 +88,7 @@ void prevItem() {
 
 void nextRec(std::int16_t& item) {
   bool choosing = mode == kChoosingRange;
-  if (!choosing) flushForMove();
+  if (!choosing) flushRec();
   std::int32_t count = recCount();
   if (curRec > count) return host().beep();
   if (curRec == count) {
@@ -101,21 +108,17 @@ void nextRec(std::int16_t& item) {
 
 void prevRec(std::int16_t& item) {
   bool choosing = mode == kChoosingRange;
-  if (!choosing) flushForMove();
+  if (!choosing) flushRec();
   if (curRec == 1) return host().beep();
-  if (curRec > recCount() && rowBytes(currentRow()) == blankRec) setRow(currentRow(), slashRec);
-  --curRec;
-  if (autoIdOn == 1) {
-    autoIdValue -= 1;
-    stampId();
-  }
-  if (curRec >= cacheBase) {
+  CacheRow* left = rowOf(curRec);
+  if (curRec > recCount() && left && rowBytes(*left) == blankRec) setRow(*left, slashRec);
+  // Off the cache there is no row to stamp or to show: the cursor stays.
+  if (curRec - 1 < cacheBase) {
+    host().beep();
+  } else {
+    stepBack();
     if (choosing) return;
     cacheScrollUp();
-  } else {
-    host().beep();
-    ++curRec;
-    if (autoIdOn == 1) autoIdValue += 1;
   }
   dispAll(item);
   show();

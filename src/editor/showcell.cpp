@@ -1,4 +1,6 @@
 // What is shown for the cursor: the controls of the main form, the view beside it, the title.
+#include <algorithm>
+
 #include "editor/card.h"
 #include "editor/commit.h"
 #include "editor/form1.h"
@@ -7,7 +9,6 @@
 #include "editor/state.h"
 #include "platform/number.h"
 #include "store/cursor.h"
-#include "store/itemfile.h"
 #include "store/mainform.h"
 #include "store/records.h"
 
@@ -27,7 +28,7 @@ Text entryItemList() {
 }
 
 Text idCaption() {
-  Text id = trimmed(cellOfRow(currentRow(), 0));
+  Text id = trimmed(cellOfCur(0));
   return autoIdOn == 1 ? id + u"(自動更新！)" : id;
 }
 
@@ -35,12 +36,12 @@ void refreshAlwaysShown() {
   if (spItem == kNoItem) return;
   Form* view = screen().loaded(u"frmSPITEM");
   Control* label = view ? view->find(u"Label1") : nullptr;
-  if (label) label->setCaption(trimmed(cellOfRow(currentRow(), spItem)));
+  if (label) label->setCaption(trimmed(cellOfCur(spItem)));
 }
 
 bool focusBelongsElsewhere() {
-  static constexpr TextView kWords[] = {u"chfln",      u"move", u"moveitem", u"moverecord",
-                                        u"copy",       u"srch", u"narabekaef", u"HTYU"};
+  static constexpr TextView kWords[] = {u"chfln", u"move", u"moveitem",   u"moverecord",
+                                        u"copy",  u"srch", u"narabekaef", u"HTYU"};
   for (TextView word : kWords) {
     if (mode == word) return true;
   }
@@ -54,10 +55,12 @@ void showCell(float record, float item, TextView preset, TextView) {
   main.storeNames();
   Form1::Filling filling(main);
   auto i = static_cast<std::size_t>(item);
+  // A single holds no more than 24 bits: the cursor itself is meant where it rounds to the same.
+  std::int32_t wanted = record == static_cast<float>(curRec) ? curRec : static_cast<std::int32_t>(record);
+  takeRow(wanted);
   refreshAlwaysShown();
-  // A single holds no more than 24 bits: the cursor itself is shown where it is the record that is meant.
-  bool atCursor = record == static_cast<float>(curRec);
-  main.txtREC.setText(decimal(atCursor ? curRec : static_cast<std::int64_t>(record)));
+  main.txtREC.setText(decimal(wanted));
+  takeRow(wanted);
   main.Text1.setText(decimal(itemCount));
   main.Label13.setCaption(idCaption());
   main.txtItemnum.setText(decimal(static_cast<std::int64_t>(i)));
