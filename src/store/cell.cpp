@@ -16,7 +16,7 @@ struct Span {
 
 // Where the cell lies, never outside the row: widths that sum to more than a record are cut at its end.
 Span spanOf(int item) {
-  if (item < 0 || item >= kMaxItems) throw Fault{u"項目番号が範囲外です。"};
+  if (item < 0 || item >= kMaxItems) throw Fault{kSubscript};
   const auto at = static_cast<std::size_t>(item);
   const int start = std::clamp(itemStart[at] - 1, 0, int{recLen});
   const int length = std::clamp(int{itemWidth[at]}, 0, recLen - start);

@@ -77,7 +77,7 @@ bool putRec(int file, std::int32_t record, std::string_view bytes) {
 
 CacheRow& currentRow() {
   const std::size_t row = rowIndex(curRec);
-  if (row == 0) throw Fault{u"記録番号が範囲外です。"};
+  if (row == 0) throw Fault{kSubscript};
   return recCache[row];
 }
 
