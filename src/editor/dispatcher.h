@@ -1,0 +1,17 @@
+// The keys of the input box: key-down acts, key-up speaks.
+#pragma once
+
+#include "platform/keys.h"
+
+namespace zelko {
+
+// In the order in which a key is looked at: choosing a range, a finished range, Ctrl+F, sums, dropping a range, Esc,
+// moves. A key that was used is swallowed.
+void inputKeyDown(KeyEvent& key);
+// The questions and the caret; each branch holds the gate.
+void inputKeyUp(KeyEvent& key);
+
+// Esc on an empty box: stores the current row and asks whether to end the program.
+void askToEnd();
+
+}  // namespace zelko
