@@ -3,12 +3,14 @@
 #include <algorithm>
 #include <iterator>
 
+#include "editor/commands.h"
+#include "editor/exit.h"
 #include "editor/form1.h"
 #include "editor/jumps.h"
-#include "editor/menutable.h"
 #include "editor/moves.h"
 #include "editor/rangekeys.h"
 #include "editor/sheet.h"
+#include "editor/speechmenu.h"
 #include "editor/state.h"
 #include "editor/utilities.h"
 #include "platform/host.h"
@@ -80,19 +82,19 @@ bool toFirstItem(int) {
 }
 
 bool insertOneRecord(int) {
-  runMenuCommand(u"mnuINSREC1");
+  runCommand(u"mnuINSREC1");
   return true;
 }
 
 bool shiftDataRight(int) {
   if (!boxIsBlank()) return false;
-  runMenuCommand(u"mnuINS");
+  runCommand(u"mnuINS");
   return true;
 }
 
 bool shiftDataLeft(int) {
   if (!boxIsBlank()) return false;
-  runMenuCommand(u"mnuSLEFT");
+  runCommand(u"mnuSLEFT");
   return true;
 }
 
@@ -135,7 +137,12 @@ bool widthKey(int direction) {
     host().beep();
     return true;
   }
-  runMenuCommand(direction > 0 ? u"widenItem" : u"narrowItem");
+  runCommand(direction > 0 ? u"widenItem" : u"narrowItem");
+  return true;
+}
+
+bool speedKey(int) {
+  stepSpeed();
   return true;
 }
 
@@ -167,6 +174,7 @@ constexpr KeyRow kKeyRows[] = {
     {key::End, shift::None, limitKey},
     {key::Space, shift::Shift, widthKey, 1},
     {key::Space, shift::Ctrl, widthKey, -1},
+    {key::function(12), shift::Shift, speedKey},
 };
 
 // --- The steps in their order. -------------------------------------------------------------------------------
@@ -210,16 +218,16 @@ void sumKeyDown(int code) {
 void escape(bool rangeDropped) {
   if (!box().content().empty()) {
     emptyInputBox();
-    showTypingLine(currentCellText());
+    showTyping({});
   } else if (!rangeDropped) {
-    askToEnd();
+    askToLeave();
   }
   dropRange();
 }
 
 bool runKeyRow(const KeyEvent& key) {
-  const auto row = std::find_if(std::begin(kKeyRows), std::end(kKeyRows),
-                                [&](const KeyRow& r) { return key.is(r.code, r.mask); });
+  const auto row =
+      std::find_if(std::begin(kKeyRows), std::end(kKeyRows), [&](const KeyRow& r) { return key.is(r.code, r.mask); });
   if (row == std::end(kKeyRows)) return false;
   moveFlag = 1;
   const bool used = row->act(row->argument);
@@ -237,7 +245,7 @@ bool actOn(const KeyEvent& key) {
   if (mode == u"moveitem" || mode == u"moverecord") return false;
   if (key.is('F', shift::Ctrl)) {
     if (rangeKind != 0) flushRec();
-    runMenuCommand(u"mnuF");
+    runCommand(u"mnuF");
     return true;
   }
   if (isSumKey(key)) {

@@ -11,7 +11,4 @@ void inputKeyDown(KeyEvent& key);
 // The questions and the caret; each branch holds the gate.
 void inputKeyUp(KeyEvent& key);
 
-// Esc on an empty box: stores the current row and asks whether to end the program.
-void askToEnd();
-
 }  // namespace zelko

@@ -91,8 +91,9 @@ int targetOf(TextView answer, int from, int lowest, int highest) {
 }
 
 void askRecord() {
-  const Text answer = talkAsk(
-      u"第何記録に飛びますか？（なお、＋－付きで数値を指定すると、今の記録からの相対指定になります", u"指定記録へ移動", {});
+  const Text answer =
+      talkAsk(u"第何記録に飛びますか？（なお、＋－付きで数値を指定すると、今の記録からの相対指定になります",
+              u"指定記録へ移動", {});
   if (trimmed(answer).empty()) return;
   Moving moving;
   commitBox();
@@ -100,8 +101,9 @@ void askRecord() {
 }
 
 void askItem() {
-  const Text answer = talkAsk(
-      u"第何項目に飛びますか？（なお、＋－付きで数値を指定すると、今の項目からの相対指定になります", u"指定項目へ移動", {});
+  const Text answer =
+      talkAsk(u"第何項目に飛びますか？（なお、＋－付きで数値を指定すると、今の項目からの相対指定になります",
+              u"指定項目へ移動", {});
   if (trimmed(answer).empty()) return;
   Moving moving;
   commitBox();

@@ -41,18 +41,21 @@ Text existingCell() {
 }
 
 Text entryState() {
-  return main().Label11.caption() + u"ｷﾆｭｳｺｳﾓｸわ" + u".IDｺｳﾓｸ." + main().Label13.caption() + u"." + main().Label8.caption();
+  return main().Label11.caption() + u"ｷﾆｭｳｺｳﾓｸわ" + u".IDｺｳﾓｸ." + main().Label13.caption() + u"." +
+         main().Label8.caption();
 }
 
 Text itemReport() {
   const auto i = static_cast<std::size_t>(curItem);
-  return u"ｺｳﾓｸ" + decimal(curItem) + u"," + trimmed(itemName[i]) + itemLR[i] + u"。" + u"ｺｳﾓｸﾊﾊﾞ" + decimal(itemWidth[i]) + u"。";
+  return u"ｺｳﾓｸ" + decimal(curItem) + u"," + trimmed(itemName[i]) + itemLR[i] + u"。" + u"ｺｳﾓｸﾊﾊﾞ" +
+         decimal(itemWidth[i]) + u"。";
 }
 
 Text recordReport() { return u"ｷﾞｮｳ" + decimal(curRec) + markStop; }
 
 Text fileReport() {
-  return joinName(docDrive, docPath) + u"。ｷﾛｸｽｳ" + decimal(recCount()) + markStop + u".ﾋｮｳﾒﾓ" + main().RichTextBox2.content();
+  return joinName(docDrive, docPath) + u"。ｷﾛｸｽｳ" + decimal(recCount()) + markStop + u".ﾋｮｳﾒﾓ" +
+         main().RichTextBox2.content();
 }
 
 Text alwaysDisplayed() {
@@ -66,18 +69,12 @@ struct Question {
 };
 
 constexpr Question kQuestions[] = {
-    {'S', shift::ShiftCtrl, inputState},
-    {key::PageDown, shift::Shift, inputState},
-    {'D', shift::ShiftCtrl, existingCell},
-    {'E', shift::ShiftCtrl, entryState},
-    {key::PageDown, shift::ShiftCtrl, entryState},
-    {'R', shift::ShiftCtrl, itemReport},
-    {key::PageUp, shift::Ctrl, itemReport},
-    {'W', shift::ShiftCtrl, recordReport},
-    {key::PageUp, shift::Shift, recordReport},
-    {'Q', shift::ShiftCtrl, fileReport},
-    {key::PageUp, shift::ShiftCtrl, fileReport},
-    {'G', shift::Alt, alwaysDisplayed},
+    {'S', shift::ShiftCtrl, inputState},           {key::PageDown, shift::Shift, inputState},
+    {'D', shift::ShiftCtrl, existingCell},         {'E', shift::ShiftCtrl, entryState},
+    {key::PageDown, shift::ShiftCtrl, entryState}, {'R', shift::ShiftCtrl, itemReport},
+    {key::PageUp, shift::Ctrl, itemReport},        {'W', shift::ShiftCtrl, recordReport},
+    {key::PageUp, shift::Shift, recordReport},     {'Q', shift::ShiftCtrl, fileReport},
+    {key::PageUp, shift::ShiftCtrl, fileReport},   {'G', shift::Alt, alwaysDisplayed},
 };
 
 // A single blank that the key which restored a limit left behind.

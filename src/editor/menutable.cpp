@@ -2,7 +2,6 @@
 
 #include "editor/commands.h"
 #include "platform/form.h"
-#include "platform/host.h"
 
 namespace zelko {
 
@@ -148,14 +147,6 @@ constexpr MenuRow kRows[] = {
 
 }  // namespace
 
-void runMenuCommand(TextView name) {
-  const auto& command = commandOf(name);
-  if (command)
-    command();
-  else
-    host().beep();
-}
-
 std::span<const MenuRow> menuRows() { return kRows; }
 
 void buildMainMenu(Form& form) {
@@ -165,7 +156,7 @@ void buildMainMenu(Form& form) {
     MenuEntry* parent = row.level == 0 ? nullptr : parents[row.level - 1];
     MenuEntry& entry = menu.add(parent, row.name, row.caption, row.shortcutCode, row.shortcutMask);
     entry.visible = !row.hidden;
-    entry.command = [name = row.name] { runMenuCommand(name); };
+    entry.command = [name = row.name] { runCommand(name); };
     parents[row.level] = &entry;
   }
 }

@@ -23,7 +23,4 @@ std::span<const MenuRow> menuRows();
 // Builds the menu of `form` from the table; what serves an entry is asked of the registered commands when it is chosen.
 void buildMainMenu(Form& form);
 
-// Does what the menu entry (or command) of that name does; a beep where nobody serves it.
-void runMenuCommand(TextView name);
-
 }  // namespace zelko

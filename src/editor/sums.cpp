@@ -1,7 +1,6 @@
 #include <algorithm>
 
-#include "editor/form1.h"
-#include "editor/menutable.h"
+#include "editor/commands.h"
 #include "editor/moves.h"
 #include "editor/state.h"
 #include "editor/utilities.h"
@@ -51,7 +50,6 @@ Text cutToWidth(const Text& digits, int width) {
 }
 
 void offer(const Sum& sum) {
-  Form1& main = form<Form1>();
   const Text digits = trimmed(str(sum.value));
   const int width = itemWidth[static_cast<std::size_t>(curItem)];
   const bool fits = static_cast<int>(sjisLength(digits)) <= width;
@@ -69,7 +67,7 @@ void offer(const Sum& sum) {
     emptyInputBox();
     return;
   }
-  main.fillInputBox(fits ? digits : cutToWidth(digits, width));
+  fillInputBox(fits ? digits : cutToWidth(digits, width));
 }
 
 void rowSum() {
@@ -104,7 +102,7 @@ void columnSum() {
 void sumKey(int code) {
   if (code == key::Num0) return rowSum();
   if (code == key::Num0 + 1) return columnSum();
-  if (code == key::Num0 + 2) return runMenuCommand(u"mnuHENSA");
+  if (code == key::Num0 + 2) return runCommand(u"mnuHENSA");
   host().beep();
 }
 
