@@ -4,6 +4,7 @@
 #include "editor/cellcommands.h"
 #include "editor/entryitems.h"
 #include "editor/form1.h"
+#include "editor/guides.h"
 #include "editor/itemlist.h"
 #include "editor/jumps.h"
 #include "editor/sheet.h"
@@ -18,6 +19,7 @@ void registerEditor() {
   registerForm<frmKOJIND>();
   registerCellCommands();
   registerEntryItems();
+  registerGuides();
   registerItemList();
   registerJumps();
   registerSpeechMenu();
