@@ -15,10 +15,8 @@ namespace {
 
 std::size_t currentWidth() { return static_cast<std::size_t>(itemWidth[static_cast<std::size_t>(curItem)]); }
 
-// An edit that leaves the text no longer than it was fills no cell: a text brought back for editing can be shortened.
 bool hasFilledCell(const Text& text) {
   std::size_t bytes = sjisLength(text);
-  if (bytes <= sjisLength(lastInput)) return false;
   if (bytes >= currentWidth()) return true;
   return inputLimit != 0 && sjisLength(trimmed(text)) >= static_cast<std::size_t>(inputLimit);
 }
