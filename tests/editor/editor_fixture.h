@@ -1,6 +1,8 @@
 // A user at the editor: a table made in the test, keys pressed, every sentence heard.
 #pragma once
 
+#include <doctest/doctest.h>
+
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -52,3 +54,12 @@ Form1& mainForm();
 std::string utf8(TextView text);
 
 }  // namespace zelko::test
+
+template <>
+struct doctest::StringMaker<zelko::test::Heard> {
+  static String convert(const zelko::test::Heard& lines) {
+    std::string all;
+    for (const std::string& line : lines) all += "\n    " + line;
+    return all.c_str();
+  }
+};
