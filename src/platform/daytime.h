@@ -8,8 +8,8 @@
 namespace zelko {
 
 struct DateTime {
-  int year = 2026, month = 1, day = 5;      // the proleptic Gregorian calendar
-  int hour = 10, minute = 0, second = 0;    // 24 hours
+  int year = 2026, month = 1, day = 5;    // the proleptic Gregorian calendar
+  int hour = 10, minute = 0, second = 0;  // 24 hours
 
   bool operator==(const DateTime&) const = default;
 };

@@ -59,7 +59,7 @@ bool atEnd(int number);
 FileError printLine(int number, TextView line);
 FileError print(int number, TextView text);
 
-bool fileExists(TextView path);    // a file, not a folder
+bool fileExists(TextView path);  // a file, not a folder
 bool folderExists(TextView path);
 FileError deleteFile(TextView path);
 FileError renameFile(TextView from, TextView to);  // refuses a target that exists

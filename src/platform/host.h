@@ -1,0 +1,104 @@
+// The one seam to the machine. A host shows the forms model and feeds it; it never decides.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "platform/control.h"
+#include "platform/daytime.h"
+#include "platform/text.h"
+
+namespace zelko {
+
+class Form;
+struct MenuEntry;
+
+// Pages of text at positions in twips (1/1440 inch) from the left top corner of the page.
+class Printer {
+ public:
+  struct Font {
+    Text name = u"ＭＳ ゴシック";
+    double size = 10.5;  // points
+    bool bold = false, italic = false, underline = false, strike = false;
+  };
+  virtual ~Printer() = default;
+  // False, and nothing begun, where there is no printer. Page 1 begins with the first text.
+  virtual bool begin() = 0;
+  virtual void text(double x, double y, const Font& font, TextView text) = 0;
+  virtual double textWidth(const Font& font, TextView text) = 0;
+  virtual double textHeight(const Font& font) = 0;
+  virtual double pageWidth() = 0;
+  virtual double pageHeight() = 0;
+  virtual void newPage() = 0;
+  virtual void end() = 0;   // the job is printed
+  virtual void kill() = 0;  // the job is thrown away
+};
+
+class SerialPort {
+ public:
+  virtual ~SerialPort() = default;
+  virtual bool write(std::string_view bytes) = 0;
+  virtual std::string read() = 0;  // what has arrived, never waits
+};
+
+// The talking character of the second speech channel.
+class Character {
+ public:
+  virtual ~Character() = default;
+  virtual bool load(TextView file) = 0;  // "genie.acs"
+  virtual void unload() = 0;
+  virtual void show() = 0;
+  virtual void hide() = 0;
+  virtual void stop() = 0;
+  virtual void speak(TextView text) = 0;
+};
+
+class Host {
+ public:
+  virtual ~Host() = default;
+
+  // The model changed; a host that shows nothing ignores these.
+  virtual void formShown(Form& form) = 0;
+  virtual void formHidden(Form& form) = 0;  // hidden, or about to be unloaded
+  virtual void formForgotten(Form&) {}      // the form's memory goes
+  virtual void formCaptionChanged(Form&) {}
+  virtual void controlChanged(Control&, Property) {}
+  virtual void menuChanged(Form&) {}
+  // A form became active, or the focus moved inside the active one.
+  virtual void focusMoved(Form&, Control*) {}
+
+  // Runs events until the form is no longer visible.
+  virtual void runModal(Form& form) = 0;
+  // Called once a record by long work; cheap. Only forms that are live during work get events.
+  virtual void letEventsThrough() = 0;
+  // Input stands still, clipboard and speech are served.
+  virtual void waitSeconds(double seconds) = 0;
+  // Seconds since midnight, single precision.
+  virtual float dayTimer() = 0;
+  virtual DateTime now() = 0;
+  // 32 random bits.
+  virtual std::uint32_t randomBits() = 0;
+  virtual void beep() = 0;
+
+  // The clipboard. False where it could not be read or set; nothing has changed then.
+  virtual bool clipboardText(Text& out) = 0;
+  virtual bool clearClipboard() = 0;
+  // A sentence for the reader.
+  virtual bool sayOnClipboard(TextView sentence) = 0;
+  // A text for the user, which no reader of ours speaks.
+  virtual bool setClipboard(TextView text) = 0;
+
+  virtual Character& character() = 0;
+  virtual Printer& printer() = 0;
+  // Port 1 to 3; null where it can't be opened.
+  virtual std::unique_ptr<SerialPort> openSerial(int port) = 0;
+};
+
+// The host of the process, set before anything else runs.
+Host& host();
+void setHost(Host* host);
+
+// Ends the program from wherever it is: every modal loop is left. Thrown, and caught only by the outermost loop.
+struct ProgramEnd {};
+
+}  // namespace zelko

@@ -1,0 +1,22 @@
+// Sentences about cells: where the cursor is, what a cell holds, what was typed into it.
+#pragma once
+
+#include "platform/text.h"
+#include "voice/cellhooks.h"
+
+namespace zelko {
+
+// The announcement of a move, composed from curRec and curItem, through the gate and talkNow.
+void announceCell();
+// The pieces of the report of the whole state (mnuVC); `inputText` is what the input box holds.
+Text stateReport(TextView inputText);
+// The current cell, on return to the input box: level 2 puts the two boxes' texts into the head.
+void talkReturn(TextView head, TextView recordBox, TextView itemBox);
+
+// Words for an edit in the input box, with the bytes left in the current item.
+Text diffTalk(TextView before, TextView after);
+
+// The trimmed cell of the current record and item; record and item as decimals; the trimmed name.
+Text currentCell();
+
+}  // namespace zelko

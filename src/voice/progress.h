@@ -1,0 +1,28 @@
+// The progress dialog of long work: a stop button that lives while events are let through.
+#pragma once
+
+#include <cstdint>
+
+#include "platform/text.h"
+
+namespace zelko {
+
+// Lives as long as the work: opens frmDOE with what is being done, closes it at the end.
+class Progress {
+ public:
+  // `work` is said and shown; `total` 0 where the number of steps is not known.
+  Progress(TextView work, std::int64_t total);
+  ~Progress();
+  Progress(const Progress&) = delete;
+  Progress& operator=(const Progress&) = delete;
+
+  // One step done: lets events through, shows how far the work is now and then. False once the user asked to stop.
+  bool step(std::int64_t done);
+  bool stopped() const { return stopped_; }
+
+ private:
+  std::int64_t total_;
+  bool stopped_ = false;
+};
+
+}  // namespace zelko
