@@ -5,6 +5,7 @@
 
 #include "speech/pieces.h"
 #include "speech/plain.h"
+#include "speech/signs.h"
 
 namespace zelko {
 
@@ -16,6 +17,16 @@ bool isPauseOrStop(char16_t unit) { return unit == u'、' || unit == u'。' || u
 
 char16_t katakanaOf(char16_t unit) {
   return unit >= 0x3041 && unit <= 0x3096 ? static_cast<char16_t>(unit + 0x60) : unit;
+}
+
+bool isAllKatakana(TextView text) { return !text.empty() && std::all_of(text.begin(), text.end(), isKatakana); }
+
+// Words of tables and lists that the dictionary reads in another sense.
+const char16_t* ownReading(TextView word) {
+  if (word == u"行") return u"ギョウ";
+  if (word == u"値") return u"アタイ";
+  if (word == u"既存") return u"キゾン";
+  return nullptr;
 }
 
 // The spoken text as it grows: one blank between words, one pause or stop between sentences, none in front.
@@ -79,11 +90,11 @@ class Reading {
     const std::vector<Morpheme> words = dictionary_.morphemes(surface_);
     std::size_t at = 0;
     for (const Morpheme& word : words) {
-      if (word.begin > at) spoken_.blank();
+      sayUnits(at, word.begin);
       say(word);
       at = word.begin + word.length;
     }
-    if (words.empty()) sayUnits(0, surface_.size());
+    sayUnits(at, surface_.size());
     return std::move(spoken_);
   }
 
@@ -98,25 +109,32 @@ class Reading {
 
   void say(const Morpheme& word) {
     const bool fresh = !word.leansBack || kindAt(word.begin) == Kind::word || kindAt(word.begin) == Kind::number;
-    if (fresh && !insideWritten(word.begin)) spoken_.blank();
+    if (fresh && !insideWord(word.begin)) spoken_.blank();
     if (!allOf(word, Kind::japanese)) return sayUnits(word.begin, word.begin + word.length);
     if (word.begin > 0 && kindAt(word.begin - 1) == Kind::number && isNumberOfWord(word)) spoken_.append(u"、");
     const TextView surface = TextView(surface_).substr(word.begin, word.length);
     if (word.particle && (surface == u"は" || surface == u"へ") && spoken_.atSentenceStart())
       return spoken_.append(surface == u"は" ? u"ハ" : u"ヘ");  // no particle begins a sentence: the kana itself
-    if (word.pronunciation.empty()) return sayUnits(word.begin, word.begin + word.length);
-    spoken_.append(word.pronunciation);
+    if (const char16_t* own = ownReading(surface)) return spoken_.append(own);
+    if (!isAllKatakana(word.pronunciation)) return sayUnits(word.begin, word.begin + word.length);
+    const bool strike = surface.front() == u'叩' && word.pronunciation.starts_with(u"ハタ");
+    spoken_.append(strike ? u"タタ" + word.pronunciation.substr(2) : word.pronunciation);
   }
 
   // "項目2氏名": the number belongs to the word before it, and a new word follows.
   bool isNumberOfWord(const Morpheme& next) const {
     const std::size_t number = owner_[next.begin - 1];
-    return !next.leansBack && number > 0 &&
-           (pieces_[number - 1].kind == Kind::japanese || pieces_[number - 1].kind == Kind::written);
+    if (next.leansBack || number == 0) return false;
+    const Text& label = pieces_[number - 1].surface;
+    constexpr const char16_t* labels[] = {u"項目", u"コウモク", u"行", u"ギョウ", u"記録", u"キロク", u"番号", u"バンゴウ"};
+    return std::any_of(std::begin(labels), std::end(labels), [&](TextView end) { return label.ends_with(end); });
   }
 
-  // The dictionary may cut the program's own kana anywhere: it is said in one go.
-  bool insideWritten(std::size_t at) const { return at > 0 && kindAt(at) == Kind::written && owner_[at] == owner_[at - 1]; }
+  // The dictionary may cut the program's own kana anywhere, and hiragana often wrongly: both are said in one go.
+  bool insideWord(std::size_t at) const {
+    if (at == 0 || owner_[at] != owner_[at - 1]) return false;
+    return kindAt(at) == Kind::written || (isHiragana(surface_[at]) && isHiragana(surface_[at - 1]));
+  }
 
   void sayUnits(std::size_t begin, std::size_t end) {
     for (std::size_t i = begin; i < end; ++i) {
@@ -136,6 +154,7 @@ class Reading {
   }
 
   void sayAlone(char16_t unit) {
+    if (unit == u'々' || unit == u'〆') return spoken_.append(signOf(unit).name);
     if (!isKanji(unit)) return spoken_.append(Text(1, katakanaOf(unit)));
     const Text reading = dictionary_.kanjiReading(unit);
     if (!reading.empty()) return spoken_.append(reading);

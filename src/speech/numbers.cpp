@@ -130,8 +130,41 @@ Text decimalsKana(TextView whole, TextView decimals) {
 
 bool afterMonthAt(TextView text, std::size_t at) { return at > 0 && text[at - 1] == u'月'; }
 
+// The digits that "5万3千" or "1億2000万" stand for; empty where no such unit is behind the digits at `at`.
+struct WithUnits {
+  std::size_t length = 0;
+  Text digits;
+};
+
+WithUnits withUnitsAt(TextView text, std::size_t at) {
+  unsigned long long total = 0;
+  std::size_t behind = at, lowest = 16;
+  while (true) {
+    const std::size_t end = digitsEnd(text, behind);
+    if (end == behind || end - behind > 4) break;
+    unsigned long long part = 0;
+    for (char16_t digit : text.substr(behind, end - behind)) part = part * 10 + valueOf(digit);
+    const std::size_t unit = end < text.size() ? TextView(u"千万億兆").find(text[end]) : TextView::npos;
+    const std::size_t zeros = unit == TextView::npos ? 0 : unit == 0 ? 3 : unit * 4;
+    if (zeros >= lowest || (zeros == 3 && part > 9)) break;
+    lowest = zeros;
+    for (std::size_t i = 0; i < zeros; ++i) part *= 10;
+    total += part;
+    behind = zeros == 0 ? end : end + 1;
+    if (zeros == 0) break;
+  }
+  if (lowest == 16 || (behind > at && digitsEnd(text, at) == behind) || total == 0) return {};
+  const std::string digits = std::to_string(total);
+  return {behind - at, Text(digits.begin(), digits.end())};
+}
+
 // One number without a sign.
 SpokenNumber plainAt(TextView text, std::size_t at) {
+  if (const WithUnits units = withUnitsAt(text, at); units.length != 0) {
+    const Text whole = wholeNumberKana(units.digits);
+    const CountedNumber with = counted(units.digits, whole, text, at + units.length, false);
+    return {units.length + with.length, with.length == 0 ? whole : with.kana, true};
+  }
   const std::size_t commas = thousandsEnd(text, at);
   const std::size_t end = commas == at ? digitsEnd(text, at) : commas;
   Text digits;

@@ -27,6 +27,7 @@ class Cutter {
  private:
   void cutOne() {
     const char16_t unit = text_[at_];
+    if (takeWeekday()) return;
     if (takeNumber()) return;
     if (unit == u' ') return add(Kind::blank, u" ", u" ", 1);
     if (isLetter(unit)) return takeLatin();
@@ -54,6 +55,17 @@ class Cutter {
     if (number.length == 0) return false;
     add(number.counted ? Kind::word : Kind::number, number.counted ? kWordSurface : kNumberSurface, number.kana,
         number.length);
+    return true;
+  }
+
+  // "（月）" behind a date.
+  bool takeWeekday() {
+    constexpr const char16_t* names[] = {u"ニチヨウ", u"ゲツヨウ", u"カヨウ", u"スイヨウ",
+                                         u"モクヨウ", u"キンヨウ", u"ドヨウ"};
+    if (text_[at_] != u'(' || behind() == 0 || text_.substr(at_ + 2, 1) != u")") return false;
+    const std::size_t day = TextView(u"日月火水木金土").find(behind());
+    if (day == TextView::npos) return false;
+    add(Kind::word, kWordSurface, names[day], 3);
     return true;
   }
 
@@ -96,7 +108,6 @@ class Cutter {
     if (end == at_) ++end;
     const TextView run = text_.substr(at_, end - at_);
     if (run == u"ー" && !afterKana()) return add(Kind::word, kWordSurface, signOf(u'ー').name, 1);
-    if (run == u"〆") return add(Kind::word, kWordSurface, signOf(u'〆').name, 1);
     pieces_.push_back({Kind::japanese, Text(run), Text()});
     at_ = end;
   }
@@ -116,7 +127,7 @@ class Cutter {
     const SignRole role = nameAll_ && unit != u'　' ? SignRole::said : roleHere(sign);
     switch (role) {
       case SignRole::said: return add(Kind::word, kWordSurface, nameHere(sign), length);
-      case SignRole::pause: return add(Kind::pause, u"、", u"、", length);
+      case SignRole::pause: return add(Kind::pause, unit == u'　' ? u" " : u"、", u"、", length);
       case SignRole::stop: return add(Kind::stop, u"。", u"。", length);
       case SignRole::question: return add(Kind::question, u"？", u"？", length);
       case SignRole::silent: return add(Kind::blank, u" ", u" ", length);
@@ -130,13 +141,22 @@ class Cutter {
   // A few signs are words in one place and only part their neighbours in another.
   SignRole roleHere(const Sign& sign) const {
     switch (sign.sign) {
-      case u'.': return isLetter(behind()) ? SignRole::said : SignRole::stop;
+      case u'.': return partsName() ? SignRole::said : SignRole::stop;
       case u'/':  // the program parts row and item with it
         return isDigit(before()) && !isAscii(behind()) ? SignRole::pause : SignRole::said;
       case u':': return isLetter(before()) ? SignRole::said : SignRole::pause;
       case u'～': return before() == u'\0' || behind() == u'\0' ? SignRole::pause : SignRole::said;
       default: return sign.role;
     }
+  }
+
+  // The dot in "example.com", "Ver.3" and "住所録.txt", but not the stop before a word such as "ID".
+  bool partsName() const {
+    if (!isAscii(behind())) return false;
+    if (isAscii(before())) return true;
+    std::size_t end = at_ + 1;
+    while (end < text_.size() && isLetter(text_[end])) ++end;
+    return (behind() >= u'a' && behind() <= u'z') || end - at_ == 4;
   }
 
   Text nameHere(const Sign& sign) const {

@@ -89,11 +89,23 @@ char16_t voiced(char16_t kana, char16_t mark) {
   return 0;
 }
 
+// The kana that an iteration mark stands for, or nothing.
+char16_t repeated(TextView before, char16_t mark) {
+  if (before.empty() || (!isKatakana(before.back()) && !isHiragana(before.back()))) return 0;
+  if (mark == u'ゝ' || mark == u'ヽ') return before.back();
+  if (mark != u'ゞ' && mark != u'ヾ') return 0;
+  const bool hiragana = isHiragana(before.back());
+  const auto kana = static_cast<char16_t>(before.back() + (hiragana ? 0x60 : 0));
+  const char16_t joined = voiced(kana, u'ﾞ');
+  if (joined == 0) return before.back();
+  return static_cast<char16_t>(joined - (hiragana ? 0x60 : 0));
+}
+
 }  // namespace
 
 bool isHalfWidthKana(char16_t unit) { return unit >= 0xFF66 && unit <= 0xFF9F; }
 bool isKatakana(char16_t unit) { return unit >= 0x30A1 && unit <= 0x30FC && unit != u'・'; }
-bool isHiragana(char16_t unit) { return unit >= 0x3041 && unit <= 0x309E; }
+bool isHiragana(char16_t unit) { return unit >= 0x3041 && unit <= 0x3096; }
 bool isKanji(char16_t unit) {
   return (unit >= 0x3400 && unit <= 0x9FFF) || (unit >= 0xF900 && unit <= 0xFAFF) || unit == u'々';
 }
@@ -111,6 +123,8 @@ Text plainSpelling(TextView text) {
       continue;
     } else if (unit == u'\n' || unit == u'\r' || unit == u'\t') {
       plain += u'　';
+    } else if (const char16_t again = repeated(plain, unit); again != 0) {
+      plain += again;
     } else if (isMistypedLongMark(text, i)) {
       plain += u'ー';
     } else if (!isControl(unit)) {
