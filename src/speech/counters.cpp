@@ -196,8 +196,7 @@ constexpr TextView kDays =
     u" 2=フツカ 3=ミッカ 4=ヨッカ 5=イツカ 6=ムイカ 7=ナノカ 8=ヨウカ 9=ココノカ 10=トオカ 14=ジュウヨッカ 20=ハツカ "
     u"24=ニジュウヨッカ ";
 constexpr TextView kPeople = u" 1=ヒトリ 2=フタリ ";
-constexpr TextView kThings =
-    u" 1=ヒトツ 2=フタツ 3=ミッツ 4=ヨッツ 5=イツツ 6=ムッツ 7=ナナツ 8=ヤッツ 9=ココノツ ";
+constexpr TextView kThings = u" 1=ヒトツ 2=フタツ 3=ミッツ 4=ヨッツ 5=イツツ 6=ムッツ 7=ナナツ 8=ヤッツ 9=ココノツ ";
 constexpr Counter kDay{u"日", u"ニチ", plain, u"7シチ9ク"};
 constexpr Counter kPerson{u"人", u"ニン", plain, u"4ヨ"};
 

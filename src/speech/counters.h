@@ -11,7 +11,8 @@ struct CountedNumber {
 };
 
 // `digits` is the whole number ("12", no leading zero; empty for a decimal fraction), `number` its kana, and the
-// counter is looked for at `at` (from 0) of a text in plain spelling. `afterMonth` tells whether a month was named before.
+// counter is looked for at `at` (from 0) of a text in plain spelling. `afterMonth` tells whether a month was named
+// before.
 CountedNumber counted(TextView digits, const Text& number, TextView text, std::size_t at, bool afterMonth);
 
 bool counterAt(TextView text, std::size_t at);

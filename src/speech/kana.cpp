@@ -66,11 +66,16 @@ class Spoken {
   // Kana that engines do not know alone.
   static char16_t heard(char16_t unit) {
     switch (unit) {
-      case u'ヲ': return u'オ';
-      case u'ヮ': return u'ワ';
-      case u'ヵ': return u'カ';
-      case u'ヶ': return u'ケ';
-      default: return unit;
+      case u'ヲ':
+        return u'オ';
+      case u'ヮ':
+        return u'ワ';
+      case u'ヵ':
+        return u'カ';
+      case u'ヶ':
+        return u'ケ';
+      default:
+        return unit;
     }
   }
 
@@ -126,7 +131,8 @@ class Reading {
     const std::size_t number = owner_[next.begin - 1];
     if (next.leansBack || number == 0) return false;
     const Text& label = pieces_[number - 1].surface;
-    constexpr const char16_t* labels[] = {u"項目", u"コウモク", u"行", u"ギョウ", u"記録", u"キロク", u"番号", u"バンゴウ"};
+    constexpr const char16_t* labels[] = {u"項目", u"コウモク", u"行",   u"ギョウ",
+                                          u"記録", u"キロク",   u"番号", u"バンゴウ"};
     return std::any_of(std::begin(labels), std::end(labels), [&](TextView end) { return label.ends_with(end); });
   }
 
@@ -139,12 +145,20 @@ class Reading {
   void sayUnits(std::size_t begin, std::size_t end) {
     for (std::size_t i = begin; i < end; ++i) {
       switch (kindAt(i)) {
-        case Kind::japanese: sayAlone(surface_[i]); break;
-        case Kind::written: spoken_.append(TextView(&surface_[i], 1)); break;
-        case Kind::blank: spoken_.blank(); break;
+        case Kind::japanese:
+          sayAlone(surface_[i]);
+          break;
+        case Kind::written:
+          spoken_.append(TextView(&surface_[i], 1));
+          break;
+        case Kind::blank:
+          spoken_.blank();
+          break;
         case Kind::pause:
         case Kind::stop:
-        case Kind::question: spoken_.append(pieces_[owner_[i]].kana); break;
+        case Kind::question:
+          spoken_.append(pieces_[owner_[i]].kana);
+          break;
         case Kind::number:
         case Kind::word:
           spoken_.blank();

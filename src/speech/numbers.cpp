@@ -25,10 +25,17 @@ Text fourPlaces(TextView digits, bool below10000) {
   for (std::size_t i = 0; i < digits.size(); ++i) {
     const std::size_t value = valueOf(digits[i]);
     switch (digits.size() - i) {
-      case 4: kana += value == 1 && !below10000 ? u"イッセン" : thousands[value]; break;
-      case 3: kana += hundreds[value]; break;
-      case 2: kana += value == 0 ? Text() : (value == 1 ? Text() : Text(kDigits[value])) + u"ジュウ"; break;
-      default: kana += value == 0 ? u"" : kDigits[value];
+      case 4:
+        kana += value == 1 && !below10000 ? u"イッセン" : thousands[value];
+        break;
+      case 3:
+        kana += hundreds[value];
+        break;
+      case 2:
+        kana += value == 0 ? Text() : (value == 1 ? Text() : Text(kDigits[value])) + u"ジュウ";
+        break;
+      default:
+        kana += value == 0 ? u"" : kDigits[value];
     }
   }
   return kana;
@@ -82,8 +89,8 @@ Text valueWith(TextView digits, TextView counter, bool afterMonth = false) {
 SpokenNumber dateAt(const std::vector<TextView>& groups) {
   if (groups.size() != 3 || groups[0].size() != 4 || groups[1].size() > 2 || groups[2].size() > 2) return {};
   if (!inRange(groups[1], 1, 12) || !inRange(groups[2], 1, 31)) return {};
-  const Text kana = valueWith(groups[0], u"年") + u" " + valueWith(groups[1], u"月") + u" " +
-                    valueWith(groups[2], u"日", true);
+  const Text kana =
+      valueWith(groups[0], u"年") + u" " + valueWith(groups[1], u"月") + u" " + valueWith(groups[2], u"日", true);
   return {lengthOf(groups), kana, true};
 }
 
@@ -178,8 +185,9 @@ SpokenNumber plainAt(TextView text, std::size_t at) {
   }
   const TextView value = withoutZeros(digits);
   const bool places = digits.size() > kLongestValue || (digits.size() > 1 && digits[0] == u'0');
-  const CountedNumber with =
-      value.size() > kLongestValue ? CountedNumber{} : counted(value, wholeNumberKana(value), text, end, afterMonthAt(text, at));
+  const CountedNumber with = value.size() > kLongestValue
+                                 ? CountedNumber{}
+                                 : counted(value, wholeNumberKana(value), text, end, afterMonthAt(text, at));
   if (with.length != 0 && (!places || digits.size() == 2)) return {end - at + with.length, with.kana, true};
   return {end - at, places ? placesKana(digits) : wholeNumberKana(value), false};
 }
@@ -260,12 +268,17 @@ SpokenNumber readNumber(TextView text, std::size_t at) {
     return SpokenNumber{number.length + 1, before + number.kana + behind, *behind != 0 || number.counted};
   };
   switch (text[at]) {
-    case u'-': return signedNumber(u"マイナス ", u"");
-    case u'+': return signedNumber(u"プラス ", u"");
+    case u'-':
+      return signedNumber(u"マイナス ", u"");
+    case u'+':
+      return signedNumber(u"プラス ", u"");
     case u'¥':
-    case u'\\': return signedNumber(u"", u"エン");
-    case u'$': return signedNumber(u"", u"ドル");
-    default: return {};
+    case u'\\':
+      return signedNumber(u"", u"エン");
+    case u'$':
+      return signedNumber(u"", u"ドル");
+    default:
+      return {};
   }
 }
 

@@ -126,11 +126,16 @@ class Cutter {
     const Sign& sign = signOf(unit);
     const SignRole role = nameAll_ && unit != u'　' ? SignRole::said : roleHere(sign);
     switch (role) {
-      case SignRole::said: return add(Kind::word, kWordSurface, nameHere(sign), length);
-      case SignRole::pause: return add(Kind::pause, unit == u'　' ? u" " : u"、", u"、", length);
-      case SignRole::stop: return add(Kind::stop, u"。", u"。", length);
-      case SignRole::question: return add(Kind::question, u"？", u"？", length);
-      case SignRole::silent: return add(Kind::blank, u" ", u" ", length);
+      case SignRole::said:
+        return add(Kind::word, kWordSurface, nameHere(sign), length);
+      case SignRole::pause:
+        return add(Kind::pause, unit == u'　' ? u" " : u"、", u"、", length);
+      case SignRole::stop:
+        return add(Kind::stop, u"。", u"。", length);
+      case SignRole::question:
+        return add(Kind::question, u"？", u"？", length);
+      case SignRole::silent:
+        return add(Kind::blank, u" ", u" ", length);
     }
   }
 
@@ -141,12 +146,16 @@ class Cutter {
   // A few signs are words in one place and only part their neighbours in another.
   SignRole roleHere(const Sign& sign) const {
     switch (sign.sign) {
-      case u'.': return partsName() ? SignRole::said : SignRole::stop;
+      case u'.':
+        return partsName() ? SignRole::said : SignRole::stop;
       case u'/':  // the program parts row and item with it
         return isDigit(before()) && !isAscii(behind()) ? SignRole::pause : SignRole::said;
-      case u':': return isLetter(before()) ? SignRole::said : SignRole::pause;
-      case u'～': return before() == u'\0' || behind() == u'\0' ? SignRole::pause : SignRole::said;
-      default: return sign.role;
+      case u':':
+        return isLetter(before()) ? SignRole::said : SignRole::pause;
+      case u'～':
+        return before() == u'\0' || behind() == u'\0' ? SignRole::pause : SignRole::said;
+      default:
+        return sign.role;
     }
   }
 

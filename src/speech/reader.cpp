@@ -10,6 +10,7 @@
 #include <mutex>
 #include <optional>
 #include <thread>
+#include <utility>
 
 #include "speech/dictionary.h"
 #include "speech/kana.h"

@@ -4,7 +4,6 @@
 #include <poll.h>
 #include <signal.h>
 #include <spawn.h>
-#include <sys/pidfd.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <sys/wait.h>
@@ -15,6 +14,11 @@
 #include <cstdlib>
 #include <cstring>
 #include <string_view>
+#include <utility>
+
+extern "C" {
+#include <sys/pidfd.h>  // brings no C linkage of its own
+}
 
 extern char** environ;
 
@@ -93,8 +97,8 @@ bool VoiceService::openSocket(const std::string& path) {
 bool VoiceService::startService(const std::string& path) {
   if (!settings_.mayStart) return false;
   limit_ = Clock::now() + settings_.startLimit;
-  const char* arguments[] = {"speech-dispatcher", "--spawn", "--communication-method", "unix_socket",
-                             "--socket-path", path.c_str(), nullptr};
+  const char* arguments[] = {"speech-dispatcher", "--spawn", "--communication-method", "unix_socket", "--socket-path",
+                             path.c_str(),        nullptr};
   posix_spawn_file_actions_t files;
   posix_spawn_file_actions_init(&files);
   for (int fd = 0; fd < 3; ++fd) posix_spawn_file_actions_addopen(&files, fd, "/dev/null", O_RDWR, 0);
@@ -124,7 +128,10 @@ bool VoiceService::greet() {
   set("SSML_MODE", "off");
   set("PUNCTUATION", "none");
   set("LANGUAGE", "ja");
-  chooseModule();
+  if (std::exchange(askForModules_, false)) {
+    chooseModule();
+    askForModules_ = connected();
+  }
   usersVoice_ = valueOf("VOICE_TYPE");
   usersRate_ = valueOf("RATE");
   usersPitch_ = valueOf("PITCH");
@@ -137,17 +144,18 @@ bool VoiceService::greet() {
 void VoiceService::chooseModule() {
   const std::string current = valueOf("OUTPUT_MODULE");
   const auto isStock = [](const std::string& module) { return module.starts_with("espeak"); };
-  if (current.empty() || (!isStock(current) && speaksJapanese(current))) return;
+  if (current.empty() || (!isStock(current) && speaksJapanese())) return;
   const Answer modules = order("LIST OUTPUT_MODULES");
   for (const std::string& module : modules.lines) {
     if (module == current || isStock(module) || module == "dummy") continue;
-    if (set("OUTPUT_MODULE", module) && speaksJapanese(module)) return;
+    if (set("OUTPUT_MODULE", module) && speaksJapanese()) return;
   }
   const auto stock = std::find_if(modules.lines.begin(), modules.lines.end(), isStock);
   set("OUTPUT_MODULE", isStock(current) || stock == modules.lines.end() ? current : *stock);
 }
 
-bool VoiceService::speaksJapanese(const std::string&) {
+// The engine now chosen.
+bool VoiceService::speaksJapanese() {
   const Answer voices = order("LIST SYNTHESIS_VOICES");
   return std::any_of(voices.lines.begin(), voices.lines.end(), [](const std::string& voice) {
     return voice.find("\tja") != std::string::npos || voice.find("\tJA") != std::string::npos;

@@ -17,12 +17,13 @@ class VoiceService {
  public:
   struct Settings {
     std::string socket;  // path; empty: $SPEECHD_ADDRESS, else the user's own service
-    bool mayStart = true;  // starts the user's own service where it does not run; a socket named otherwise is left alone
+    bool mayStart =
+        true;  // starts the user's own service where it does not run; a socket named otherwise is left alone
     std::chrono::milliseconds answerLimit{1000};
     std::chrono::milliseconds startLimit{5000};
   };
   struct Voice {
-    bool character = false;  // the talking character's voice
+    bool character = false;          // the talking character's voice
     std::optional<int> rate, pitch;  // -100 to 100; none: as the user's settings have it
   };
 
@@ -42,7 +43,7 @@ class VoiceService {
 
  private:
   struct Answer {
-    int code = 0;  // 0: no answer
+    int code = 0;                    // 0: no answer
     std::vector<std::string> lines;  // of the listing before the last line, codes cut
   };
   enum class Ready { yes, late, leave };
@@ -52,7 +53,7 @@ class VoiceService {
   bool startService(const std::string& path);
   bool greet();
   void chooseModule();
-  bool speaksJapanese(const std::string& module);
+  bool speaksJapanese();
   bool setVoice(const Voice& voice);
   bool set(const std::string& what, const std::string& value);
   std::string valueOf(const std::string& what);
@@ -68,6 +69,7 @@ class VoiceService {
   std::chrono::steady_clock::time_point limit_;
   std::string usersVoice_, usersRate_, usersPitch_;  // at the start of the line
   Voice voice_;                                      // now set
+  bool askForModules_ = true;                        // false once a service broke over the question
 };
 
 }  // namespace zelko
