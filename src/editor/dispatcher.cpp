@@ -215,8 +215,7 @@ void sumKeyDown(int code) {
 
 void escape(bool rangeDropped) {
   if (!box().content().empty()) {
-    emptyInputBox();
-    showTyping({});
+    box().setText({});  // heard as an edit
   } else if (!rangeDropped) {
     askToLeave();
   }

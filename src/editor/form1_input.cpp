@@ -15,8 +15,10 @@ namespace {
 
 std::size_t currentWidth() { return static_cast<std::size_t>(itemWidth[static_cast<std::size_t>(curItem)]); }
 
+// An edit that shortens fills no cell: a text that the program brought may be longer than the cell.
 bool hasFilledCell(const Text& text) {
   std::size_t bytes = sjisLength(text);
+  if (bytes < sjisLength(lastInput)) return false;
   if (bytes >= currentWidth()) return true;
   return inputLimit != 0 && sjisLength(trimmed(text)) >= static_cast<std::size_t>(inputLimit);
 }

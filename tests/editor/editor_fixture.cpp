@@ -8,6 +8,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "editor/registereditor.h"
 #include "editor/state.h"
 #include "editor/view.h"
 #include "platform/files.h"
@@ -130,6 +131,7 @@ EditorFixture::EditorFixture() {
   resetEditor();
   resetTalk();
   appDir = fromUtf8(pattern) + u"/";
+  registerEditor();
 }
 
 EditorFixture::~EditorFixture() {
