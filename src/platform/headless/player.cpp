@@ -43,7 +43,6 @@ Player::Player(HeadlessHost& host, std::vector<Action> script, Text mainForm)
 bool Player::next() {
   if (at_ == script_.size()) return false;
   play(script_[at_++]);
-  host_.idle();
   return true;
 }
 
