@@ -1,6 +1,8 @@
 // A desk to try forms on: a host with real windows, keys that go the way of real ones, and two forms.
 #pragma once
 
+#include <doctest/doctest.h>
+
 #include <QKeyEvent>
 #include <QString>
 #include <vector>
@@ -66,3 +68,8 @@ class Desk {
 };
 
 }  // namespace zelko
+
+template <>
+struct doctest::StringMaker<zelko::Text> {
+  static String convert(const zelko::Text& text) { return zelko::toUtf8(text).c_str(); }
+};

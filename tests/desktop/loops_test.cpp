@@ -16,6 +16,9 @@ namespace {
 
 void later(int milliseconds, const std::function<void()>& act) { QTimer::singleShot(milliseconds, qApp, act); }
 
+// When the forms that are on their way to the screen stand there.
+constexpr int kSoon = 30;
+
 }  // namespace
 
 TEST_CASE("a modal form takes the keys, and gives the focus back before its caller goes on") {
@@ -31,7 +34,7 @@ TEST_CASE("a modal form takes the keys, and gives the focus back before its call
   dialog.Command1.onClick = [] { unload<Dialog>(); };
   all.show();
   Desk::letEventsRun();
-  later(0, [&] {
+  later(kSoon, [&] {
     Desk::type("x");
     CHECK(dialog.Text1.content() == u"x");
     CHECK(desk.host.windowOf(dialog)->isModal());
@@ -71,10 +74,10 @@ TEST_CASE("the end of the program and a fault leave every loop, from wherever th
       dialog.Text1.onKeyDown = [fall](KeyEvent&) { fall(); };
       all.Timer1.onTimer = fall;
       all.show();
-      later(0, [place, &all, &desk] {
+      later(kSoon, [place, &all, &desk] {
         if (place == "timer") return all.Timer1.setInterval(1);
         if (place == "menu") return desk.host.windowOf(all)->menu()->actionOf(*all.menu().find(u"mnuEND"))->trigger();
-        later(0, [] { Desk::press(Qt::Key_F2); });
+        later(kSoon, [] { Desk::press(Qt::Key_F2); });
         Desk::press(Qt::Key_F2);
       });
     };

@@ -60,10 +60,9 @@ void watchClipboardRefusals() {
 
 bool readClipboard(Text& out) {
   const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-  if (!data) return false;
   // A picture, or something else that has no text.
-  if (!data->hasText() && !data->formats().isEmpty()) return false;
-  out = fromQt(data->text());
+  if (data && !data->hasText() && !data->formats().isEmpty()) return false;
+  out = data ? fromQt(data->text()) : Text();
   return true;
 }
 

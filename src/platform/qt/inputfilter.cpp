@@ -29,6 +29,10 @@ bool isMouse(QEvent::Type type) {
   return type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease || type == QEvent::MouseButtonDblClick;
 }
 
+bool isTyped(QEvent::Type type) {
+  return type == QEvent::KeyPress || type == QEvent::KeyRelease || type == QEvent::InputMethod;
+}
+
 bool actsByClick(ControlKind kind) { return kind == ControlKind::label || kind == ControlKind::pictureBox; }
 
 }  // namespace
@@ -50,6 +54,10 @@ bool InputFilter::eventFilter(QObject* receiver, QEvent* event) {
 }
 
 bool InputFilter::handle(FormWindow& window, QWidget& receiver, QEvent& event) {
+  if (holding_ > 0 && isTyped(event.type())) {
+    held_.emplace_back(event.clone());
+    return true;
+  }
   switch (event.type()) {
     case QEvent::ShortcutOverride:
       event.accept();
@@ -59,7 +67,7 @@ bool InputFilter::handle(FormWindow& window, QWidget& receiver, QEvent& event) {
     case QEvent::KeyRelease:
       return keyReleased(static_cast<QKeyEvent&>(event));
     case QEvent::InputMethod:
-      return committed(window, receiver, static_cast<QInputMethodEvent&>(event));
+      return committed(static_cast<QInputMethodEvent&>(event));
     case QEvent::FocusIn:
       if (static_cast<QFocusEvent&>(event).reason() == Qt::MouseFocusReason) focusedByMouse(window, receiver);
       return false;
@@ -127,25 +135,19 @@ void InputFilter::giveToEditor(View& view, QEvent& event) {
   guarded([&view] { view.report(); });
 }
 
-bool InputFilter::committed(FormWindow& window, QWidget& receiver, QInputMethodEvent& event) {
-  View* view = window.viewAt(&receiver);
-  if (!view || !view->nativeEdit()) return false;
-  if (!screen().takesInput(*window.form())) {
-    if (!event.commitString().isEmpty()) heldCommits_.push_back(event.commitString());
-    return true;
-  }
-  giveToEditor(*view, event);
+bool InputFilter::committed(QInputMethodEvent& event) {
+  const Control* control = screen().activeControl();
+  View* view = control && screen().takesInput(control->form()) ? viewOf_(*control) : nullptr;
+  if (view && view->nativeEdit()) giveToEditor(*view, event);
   return true;
 }
 
-void InputFilter::deliverHeldCommits() {
-  for (const QString& text : std::exchange(heldCommits_, {})) {
-    const Control* control = screen().activeControl();
-    View* view = control ? viewOf_(*control) : nullptr;
-    if (!view || !view->nativeEdit()) continue;
-    QInputMethodEvent event;
-    event.setCommitString(text);
-    giveToEditor(*view, event);
+void InputFilter::deliverHeld() {
+  if (--holding_ > 0) return;
+  for (const auto& event : std::exchange(held_, {})) {
+    if (event->type() == QEvent::KeyPress) keyPressed(static_cast<QKeyEvent&>(*event));
+    if (event->type() == QEvent::KeyRelease) keyReleased(static_cast<QKeyEvent&>(*event));
+    if (event->type() == QEvent::InputMethod) committed(static_cast<QInputMethodEvent&>(*event));
   }
 }
 

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QObject>
+#include <memory>
 #include <unordered_map>
 #include <vector>
 
@@ -17,8 +18,9 @@ namespace zelko {
 class InputFilter : public QObject {
  public:
   explicit InputFilter(std::function<View*(const Control&)> viewOf);
-  // What an input method committed while nothing took input goes where the focus is now.
-  void deliverHeldCommits();
+  // From hold() on, keys and commits wait until deliverHeld(); then they come in their order, where the focus is now.
+  void hold() { ++holding_; }
+  void deliverHeld();
 
  protected:
   bool eventFilter(QObject* receiver, QEvent* event) override;
@@ -28,7 +30,7 @@ class InputFilter : public QObject {
   bool keyPressed(QKeyEvent& event);
   bool keyReleased(const QKeyEvent& event);
   bool modifierReleased(int code);
-  bool committed(FormWindow& window, QWidget& receiver, QInputMethodEvent& event);
+  bool committed(QInputMethodEvent& event);
   bool mouse(FormWindow& window, QWidget& receiver, const QMouseEvent& event);
   void focusedByMouse(FormWindow& window, QWidget& receiver);
   // Lets the native editor of the active control have an event, then reports what it did.
@@ -39,7 +41,8 @@ class InputFilter : public QObject {
   // What each key that is down was when it went down: its release may come when Shift and Ctrl are up already.
   std::unordered_map<int, Keystroke> down_;
   int aloneModifier_ = 0;  // Shift, Ctrl or Alt went down and nothing else did yet
-  std::vector<QString> heldCommits_;
+  std::vector<std::unique_ptr<QEvent>> held_;
+  int holding_ = 0;
   bool delivering_ = false, settling_ = false;
 };
 

@@ -72,6 +72,8 @@ void QtHost::reveal(Form& form, bool withFocus) {
   FormWindow* above = !withFocus && active && active != &form ? windowOf(*active) : nullptr;
   // Beneath a modal form every other window is dead: what is shown on top of one must be modal too.
   window->reveal(form.modal() || !modalLoops_.empty(), above);
+  // Some desktops activate every new window.
+  if (above) focusMoved(screen().activeForm() ? *screen().activeForm() : form, screen().activeControl());
 }
 
 void QtHost::formHidden(Form& form) {
@@ -169,12 +171,13 @@ void QtHost::letEventsThrough() {
 void QtHost::waitSeconds(double seconds) {
   {
     const WorkScope nothingStarts;
+    filter_.hold();
     QEventLoop loop;
     QTimer::singleShot(std::chrono::milliseconds(static_cast<std::int64_t>(seconds * 1000) + 1), Qt::PreciseTimer,
                        &loop, &QEventLoop::quit);
     loop.exec(QEventLoop::ExcludeUserInputEvents);
   }
-  QTimer::singleShot(0, &filter_, [this] { filter_.deliverHeldCommits(); });
+  QTimer::singleShot(0, &filter_, [this] { filter_.deliverHeld(); });
   wakeUp();
   rethrowKept();
 }
