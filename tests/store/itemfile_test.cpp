@@ -52,7 +52,7 @@ TEST_CASE("an item file opens, or its own message is told") {
       {"an apostrophe before the one at 6", oneItem("100 '',,,0"), kBad},
       {"value 1000", oneItem("1000 ',,,0"), u""},
       {"value beyond 16 bits", oneItem("99999',,,0"), u""},
-      {"value beyond any number", oneItem("9E999',,,0"), u""},
+      {"value beyond any number", oneItem("9E999',,,0"), kBroken},
       {"a count of more items than lines", oneItem("100  ',,,1"), kBroken},
       {"empty", "", kBroken},
       {"one long line", name100k, kBroken},
