@@ -191,7 +191,7 @@ TEST_CASE_FIXTURE(EditorFixture, "no control of the editor's forms takes the foc
       if (!control->takesFocus()) continue;
       CAPTURE(utf8(form->name() + u"." + control->name()));
       (control == &mainForm().txtinputbox ? mainForm().txtREC : mainForm().txtinputbox).setFocus();
-      play({"Shift"});
+      play({"Ctrl"});
       control->setFocus();
       CHECK(heard().size() == 1);
     }
