@@ -107,15 +107,25 @@ TEST_CASE_FIXTURE(EditorFixture, "an input limit fills a cell before its width")
   CHECK(record(1) == "1  xy    80");
 }
 
-TEST_CASE_FIXTURE(EditorFixture, "a text that the program brought can be shortened and is never committed by itself") {
+TEST_CASE_FIXTURE(EditorFixture, "a text that the program brought is never committed by itself, and can be shortened") {
   open(kItems, kRecords, 1);
+  inputLimit = 3;
   play({"Right"});
-  fillInputBox(u"abcde");
-  CHECK(curItem == 1);
   fillInputBox(u"abcdefgh");
-  play({"End", "Backspace"});
-  CHECK(utf8(mainForm().txtinputbox.content()) == "abcdefg");
+  CHECK(play({"End", "Backspace", "Backspace"}) == Heard{"say ｴｯﾁ 削除 ざん-2バイト", "say ｼﾞｰ 削除 ざん-1バイト"});
   CHECK(curItem == 1);
+  // Typing on is another matter.
+  play({"type z"});
+  CHECK(curItem == 2);
+}
+
+TEST_CASE_FIXTURE(EditorFixture, "a box that is emptied during a move leaves nothing behind in the echo") {
+  open(kItems, kRecords, 1);
+  play({"Right", "type x"});
+  moveFlag = 1;
+  showCell(1, 1, u"", u"");
+  moveFlag = 0;
+  CHECK(play({"type y"}) == Heard{"say ﾜｲ ざん4バイト"});
 }
 
 TEST_CASE_FIXTURE(EditorFixture, "only the written cell changes its bytes") {
