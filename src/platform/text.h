@@ -26,13 +26,16 @@ Text left(TextView text, std::size_t count);
 Text right(TextView text, std::size_t count);
 Text mid(TextView text, std::size_t start, std::size_t count = TextView::npos);
 
-// The position from 1 of the first `what` at or after `start`; 0 where there is none.
+// The position from 1 of the first `what` at or after `start`; 0 where there is none. An empty `what` is found
+// at `start` itself, but never in an empty rest.
 std::size_t positionOf(TextView text, TextView what, std::size_t start = 1);
 bool contains(TextView text, TextView what);
+// An empty `what` replaces nothing.
 Text replaceAll(TextView text, TextView what, TextView with);
 
 // UTF-8 of the world outside. A byte that is no UTF-8 becomes the lone surrogate U+DC80..U+DCFF and comes
-// back as the same byte, so that every file name survives the way in and out.
+// back as the same byte, so that every file name survives the way in and out. Any other lone surrogate goes out
+// as U+FFFD.
 Text fromUtf8(std::string_view bytes);
 std::string toUtf8(TextView text);
 
