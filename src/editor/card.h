@@ -17,6 +17,7 @@ class frmKOJIND : public Form {
 
  private:
   Text cellAtGrid(int row, int col) const;
+  Text markedLine() const;
   bool painting_ = false;
 };
 

@@ -66,18 +66,18 @@ class Form1 : public Form {
     Form1& form_;
   };
 
-  // The item name and the memo, where the user changed them and has not left their boxes yet.
+  // Name, width and alignment of the item, and the memo, into their boxes.
+  void showItem(std::int16_t item);
+  void showMemo();
+  // Writes the item name and the memo where the user changed them and has not left their boxes yet.
   void storeNames();
-  // The item that RichTextBox1 and txtLR show.
-  std::int16_t shownItem = 0;
-  // What the two rich boxes held at their last change.
-  Text lastName, lastMemo;
 
  private:
   void wireInputBox();
   void wireBoxes();
   void wireButtons();
   void wireForm();
+  void labelBoxes();
   void narrate();
 
   void txtinputbox_Change();
@@ -90,12 +90,19 @@ class Form1 : public Form {
   void txtItemnum_KeyPress(CharEvent& event);
   void txtItemnum_LostFocus();
   void txtLR_LostFocus();
+  void announceChange(const TextBox& box);
+  void RichTextBox1_Change();
   void RichTextBox1_LostFocus();
+  void RichTextBox2_Change();
   void RichTextBox2_LostFocus();
   void Form_KeyDown(KeyEvent& event);
   void Form_Unload();
 
   int filling_ = 0, held_ = 0;
+  std::int16_t shownItem_ = 0;  // the item and the table that the boxes show
+  Text shownPath_;
+  bool nameTyped_ = false, memoTyped_ = false;
+  Text lastName_, lastMemo_;  // the two rich boxes at their last change
 };
 
 }  // namespace zelko

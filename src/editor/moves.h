@@ -25,11 +25,12 @@ void caretEnd(TextView text);
 // The running ID number into the ID cell of the current row.
 void stampId();
 
-// If the box holds text (trimmed): commitCell, flushRec, box emptied. Else flushRec. Whoever moves to another record by
-// nextRec or prevRec right behind it does not meet the same write failure twice.
+// If the box holds text (trimmed): commitCell, flushRec, box emptied. Else flushRec.
 void commitBox();
 // The common form of a jump: commitBox, end of numbering, cursor, loadCache, dispAll, showCell.
 void jumpTo(std::int32_t record, std::int16_t item);
+// The same without storing: the caller has run commitBox and looked at the record count since.
+void goTo(std::int32_t record, std::int16_t item);
 // Empties the input box without any sentence and clears the echo memory.
 void emptyInputBox();
 // The program's own text into the input box: it is echoed as an edit and never committed by itself. All floors fill the

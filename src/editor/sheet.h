@@ -19,9 +19,13 @@ class frmSHEET : public Form {
 
   // Takes the shape of the table, the cursor and the masks over; the cells are asked for when they are shown.
   void repaint();
+  // The caption: how many items and records there are.
+  void showHead();
 
  private:
   Text cellAtGrid(int row, int col) const;
+  Text markedCell() const;
+  void Grid1_RowColChange();
   void openMarkedCell();
   bool painting_ = false;
 };

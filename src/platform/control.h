@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <utility>
 
 #include "platform/keys.h"
 #include "platform/text.h"
@@ -108,6 +109,8 @@ class Control {
   virtual bool typeDefault(char16_t) { return false; }
   // The act of a click behind the focus: toggles, selects, fires onClick.
   virtual void act();
+  // The act of a double click behind the focus: fires onDblClick.
+  virtual void actTwice();
 
   bool tabStop = false;
   Place place = Place::automatic;
@@ -123,6 +126,8 @@ class Control {
   void changed(Property property);
 
  private:
+  void availabilityChanged();
+
   Form& form_;
   ControlKind kind_;
   Text name_;
@@ -132,6 +137,11 @@ class Control {
   Colour backColour_ = kDesktopColour, foreColour_ = kDesktopColour;
   int width_ = 0;
 };
+
+// The letter behind "&" in a caption, upper case; 0 where there is none. "&&" is the sign itself.
+char16_t mnemonicOf(TextView caption);
+// The caption as it is seen: without "&".
+Text withoutMarks(TextView caption);
 
 // Calls an event that may be empty.
 template <class Event, class... Args>

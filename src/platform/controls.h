@@ -28,7 +28,7 @@ class TextBox : public Control {
   // What the native box of a host reports after the user edited it: all at once, then Change.
   void userEdited(TextView text, int selStart, int selLength);
   // An input method commits `text` at the caret: one change.
-  void commitText(TextView text) { replaceSelection(text); }
+  void commitText(TextView text);
 
   bool multiLine() const { return kind() == ControlKind::richTextBox; }
   bool readOnly = false;
@@ -38,9 +38,15 @@ class TextBox : public Control {
   bool typeDefault(char16_t ch) override;
 
  private:
+  int caret() const { return caretAtStart_ ? selStart_ : selStart_ + selLength_; }
+  void select(int anchor, int caret);
   void moveCaret(int to, bool select);
-  int caretAfter(const KeyEvent& key) const;
+  int caretAfter(const KeyEvent& key) const;  // -1 for a key that moves no caret
+  int lineAway(int from, int direction) const;
+  Text fitting(TextView text) const;
   bool clipboardKey(const KeyEvent& key);
+  bool copySelection() const;
+  bool paste();
   bool erase(const KeyEvent& key);
 
   Text text_;
@@ -66,9 +72,9 @@ class Frame : public Control {
 class Button : public Control {
  public:
   Button(Form& form, TextView name, TextView caption, int index = -1);
-  bool isDefault = false;  // Enter anywhere on the form
-  bool isCancel = false;   // Esc anywhere on the form
-  bool keyDefault(const KeyEvent& key) override;
+  bool isDefault = false;                         // Enter anywhere on the form
+  bool isCancel = false;                          // Esc anywhere on the form
+  bool keyDefault(const KeyEvent& key) override;  // Space clicks, arrows walk the buttons
 };
 
 // Value 0 or 1; Click fires on every change of it, by whomever.

@@ -67,6 +67,9 @@ class Form {
   Control* active_ = nullptr;
   Menu menu_{*this};
   bool visible_ = false, modal_ = false;
+  bool loaded_ = false;  // kept by the screen, not yet unloaded
+  bool beside_ = false;  // shown without the focus: never the next one when another closes
+  int shownAt_ = 0;      // counts the showing of forms: a modal form shuts out those shown before it
 };
 
 // The forms that are loaded and those that are shown. One for the process.
@@ -94,6 +97,8 @@ class Screen {
     ~HandlerScope();
   };
   bool handlerRuns() const { return depth_ > 0; }
+  // Counts the changes of the active form: whoever calls a handler sees by it that another form came in between.
+  int activations() const { return activations_; }
   // While long work lets events through, or a wait runs, only a form that is live during work takes input.
   bool takesInput(const Form& form) const;
   int workDepth = 0;
@@ -103,14 +108,21 @@ class Screen {
   friend class Control;
   void push(Form& form);
   void leave(Form& form);
+  void drop(Form& form);
   void makeActive(Form* form);
   void moveFocus(Control& control);
+  void settle();
+  bool shutOut(const Form& form) const;
+  Form* nextActive() const;
   void bury();
 
-  std::vector<std::unique_ptr<Form>> loaded_, graveyard_;
   std::vector<Form*> shown_;
   Form* active_ = nullptr;
-  int depth_ = 0;
+  // Whose Activate and GotFocus were the last to fire.
+  Form* activated_ = nullptr;
+  Control* entered_ = nullptr;
+  int depth_ = 0, activations_ = 0, showings_ = 0;
+  std::vector<std::unique_ptr<Form>> loaded_, graveyard_;
 };
 
 Screen& screen();

@@ -11,6 +11,7 @@ inline constexpr int Digit0 = 48;  // to 57
 inline constexpr int A = 65;       // to Z = 90
 inline constexpr int Num0 = 96;    // keypad digits, to 105
 inline constexpr int F1 = 112;     // to F12 = 123
+inline constexpr int Other = 229;  // a character that no key of this list types
 inline constexpr int letter(char upper) { return upper; }
 inline constexpr int function(int n) { return F1 + n - 1; }
 }  // namespace key

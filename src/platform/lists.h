@@ -16,15 +16,20 @@ class ListBox : public Control {
   const std::vector<Text>& entries() const { return entries_; }
   int count() const { return static_cast<int>(entries_.size()); }
   int listIndex() const { return listIndex_; }  // from 0; -1 none
-  void setListIndex(int index);
+  void setListIndex(int index);                 // a number that is no entry selects nothing
   void clear();
   void add(TextView entry);
   void setEntries(std::vector<Text> entries);  // nothing is selected afterwards
+  // Arrows, Home, End, PageUp, PageDown; a beep where the list ends.
   bool keyDefault(const KeyEvent& key) override;
+  // The next entry that begins with the character, in either case.
+  bool typeDefault(char16_t ch) override;
 
  protected:
   // Moves the mark without any event.
   void mark(int index);
+  // Other entries, and the mark on one of them, without any event.
+  void fill(std::vector<Text> entries, int marked);
 
  private:
   std::vector<Text> entries_;
@@ -36,13 +41,23 @@ class ComboBox : public ListBox {
   ComboBox(Form& form, TextView name, int index = -1) : ListBox(form, name, index, ControlKind::comboBox) {}
 };
 
-// "/", the home folder and the mounted volumes; Change fires when another is chosen.
+// "/", the home folder and the mounted volumes. Arrows move the mark, Enter or a double click chooses the marked drive;
+// Change fires when another is chosen.
 class DriveBox : public ListBox {
  public:
   DriveBox(Form& form, TextView name);
-  Text drive() const { return text(); }
+  // The drive that is chosen, whatever the mark stands on.
+  const Text& drive() const { return drive_; }
+  // The drive that holds the path: the longest that is a part of it.
   void setDrive(TextView path);
-  void act() override;
+  void refresh();  // volumes come and go
+  bool keyDefault(const KeyEvent& key) override;
+  void actTwice() override;
+
+ private:
+  void choose(int index);
+
+  Text drive_;
 };
 
 // The folder, its parents above it and its subfolders below it. Arrows move the mark; setPath opens a folder.
@@ -54,10 +69,15 @@ class FolderBox : public ListBox {
   bool setPath(TextView path);
   // The folder that the mark stands on.
   Text markedPath() const;
-  void refresh();
-  void act() override;  // a double click or Enter opens the marked folder; a click only marks
+  void refresh();  // keeps the mark where its folder still stands
+  // Enter or a double click opens the marked folder; arrows and a click only mark.
+  bool keyDefault(const KeyEvent& key) override;
+  void actTwice() override;
 
  private:
+  // False where the folder can't be read.
+  bool list(const Text& path, const Text& marked);
+
   Text path_;
   std::vector<Text> paths_;  // of each entry
 };
@@ -76,5 +96,9 @@ class FileBox : public ListBox {
  private:
   Text path_, pattern_ = u"*.*";
 };
+
+// Whether a file name fits one of the patterns parted by ";": "*" any run, "?" one character, in either case.
+// "*.*" fits every name.
+bool fileNameFits(TextView name, TextView patterns);
 
 }  // namespace zelko

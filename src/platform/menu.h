@@ -25,6 +25,8 @@ struct MenuEntry {
   // The letter behind "&", upper case; 0 where there is none.
   char16_t mnemonic() const;
   Text captionWithoutMarks() const;
+  // Shown and enabled, and every parent too.
+  bool available() const;
   // "Ctrl+F2", as the keys are named everywhere; empty where there is none.
   Text shortcutText() const;
 };
@@ -57,9 +59,13 @@ class Menu {
   bool walkKey(const KeyEvent& key);
 
  private:
-  void highlight(MenuEntry* entry);
+  void change(TextView name, bool MenuEntry::*word, bool value);
+  void highlight(MenuEntry& entry);
+  void enter(MenuEntry& entry);
   void step(int direction);
   void stepBar(int direction);
+  void goRight();
+  void goLeft();
   void letter(char16_t upper);
   const std::vector<MenuEntry*>& siblings(const MenuEntry& entry) const;
 

@@ -17,6 +17,10 @@ void pressKey(int code, int mask);
 // One character typed, with the key code that types it.
 void typeCharacter(char16_t ch);
 
+// The release of the key that pressKey holds down, now and not later: a modal loop begins with it, for the user lets go
+// of the key that opened the form when the form is there.
+void releaseHeldKey();
+
 // The character that a key types without an input method (Enter 13, Esc 27, Backspace 8, Space, digits, letters); 0 for
 // none.
 char16_t characterOf(int code, int mask);
