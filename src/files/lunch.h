@@ -1,4 +1,5 @@
-// The start screen: the entry of the program. It opens the table that the command line names, or lets the user choose one.
+// The start screen: the entry of the program. It opens the table that the command line names, or lets the user choose
+// one.
 #pragma once
 
 #include "platform/controls.h"
@@ -38,10 +39,11 @@ class FrmLunch : public Form {
   RichTextBox Text4{*this, u"Text4"};
   Timer Timer1{*this, u"Timer1"};
 
-  // Opens the table that the command line names, in double quotes or bare; false, and the start screen stays, after a message.
+  // Opens the table that the command line names, in double quotes or bare; false, and the start screen stays, after a
+  // message.
   bool openFromCommandLine(TextView commandLine);
-  // Opens a model table (1..6) or a sample (100, 101) and enters the editor; `error` is empty on success. A missing item file
-  // is healed by a copy of both stored files.
+  // Opens a model table (1..6) or a sample (100, 101) and enters the editor; `error` is empty on success. A missing
+  // item file is healed by a copy of both stored files.
   void fopen(int index, Text& error);
 
  private:

@@ -26,7 +26,8 @@ Text inFolder(TextView name) { return appDir + Text(name); }
 }  // namespace
 
 const ModelTable* modelTable(int index) {
-  const auto found = std::find_if(std::begin(kModels), std::end(kModels), [&](const ModelTable& m) { return m.index == index; });
+  const auto found =
+      std::find_if(std::begin(kModels), std::end(kModels), [&](const ModelTable& m) { return m.index == index; });
   return found == std::end(kModels) ? nullptr : found;
 }
 
