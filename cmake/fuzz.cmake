@@ -2,9 +2,6 @@
 option(ZELKO_FUZZ "Fuzz targets (needs clang; the whole core is instrumented)" OFF)
 
 add_library(zelko_fuzz_checks STATIC tests/fuzz/itemfile_check.cpp tests/store/store_fixture.cpp tests/store/store_host.cpp)
-if(EXISTS ${CMAKE_SOURCE_DIR}/tests/store/mainform_standin.cpp)
-  target_sources(zelko_fuzz_checks PRIVATE tests/store/mainform_standin.cpp)
-endif()
 target_include_directories(zelko_fuzz_checks PUBLIC tests)
 target_link_libraries(zelko_fuzz_checks PUBLIC zelko_core)
 

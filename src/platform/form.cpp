@@ -1,6 +1,7 @@
 #include "platform/form.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/host.h"
 
@@ -39,6 +40,11 @@ void Form::showModal() {
   Screen::HandlerScope scope;
   if (!visible_) modal_ = true;
   show();
+  // A question that long work asks takes input as any other.
+  struct NoWork {
+    int depth = std::exchange(screen().workDepth, 0);
+    ~NoWork() { screen().workDepth = depth; }
+  } noWork;
   if (visible_) host().runModal(*this);
 }
 

@@ -1,6 +1,10 @@
 // One print line: pieces joined by ";" (adjacent) or "," (next zone of 14 columns).
 #pragma once
 
+#include <concepts>
+#include <cstddef>
+
+#include "platform/number.h"
 #include "platform/text.h"
 
 namespace zelko {
@@ -8,12 +12,20 @@ namespace zelko {
 class PrintLine {
  public:
   PrintLine& text(TextView piece);
-  PrintLine& number(double value);  // the text form with one blank behind it
-  PrintLine& zone();                // a comma: always moves on to the next zone
+  // The text form with one blank behind it.
+  PrintLine& number(double value) { return bare(str(value)); }
+  PrintLine& number(float value) { return bare(str(value)); }
+  PrintLine& number(std::integral auto value) { return bare(str(static_cast<std::int64_t>(value))); }
+  // A comma: always moves on to the next zone. A column is a Shift-JIS byte.
+  PrintLine& zone();
+  // Without a line end.
   const Text& line() const { return line_; }
 
  private:
+  PrintLine& bare(TextView numberText) { return text(numberText).text(u" "); }
+
   Text line_;
+  std::size_t columns_ = 0;
 };
 
 // A double quote, the text as it stands, a double quote.

@@ -25,17 +25,26 @@ std::vector<std::string> corpusOf(const char* folder) {
 }
 
 std::string mutated(const std::vector<std::string>& corpus, std::mt19937& random) {
-  static const std::string pieces[] = {",", "'", "\r", "\n", "\"", "-", "\x81", "0", "254", "255", "32768", "9E999", "&HFFFF"};
+  static const std::string pieces[] = {",", "'",   "\r",  "\n",    "\"",    "-",     "\x81",
+                                       "0", "254", "255", "32768", "9E999", "&HFFFF"};
   const auto upTo = [&](std::size_t n) { return static_cast<std::size_t>(random() % n); };
   std::string text = corpus[upTo(corpus.size())];
   for (std::size_t changes = 1 + upTo(6); changes > 0; --changes) {
     const std::size_t at = upTo(text.size() + 1);
     const std::size_t length = upTo(6);
     switch (upTo(4)) {
-      case 0: text.insert(at, pieces[upTo(std::size(pieces))]); break;
-      case 1: text.erase(at, length); break;
-      case 2: text.replace(at, length, pieces[upTo(std::size(pieces))]); break;
-      default: text.insert(at, 1, static_cast<char>(random())); break;
+      case 0:
+        text.insert(at, pieces[upTo(std::size(pieces))]);
+        break;
+      case 1:
+        text.erase(at, length);
+        break;
+      case 2:
+        text.replace(at, length, pieces[upTo(std::size(pieces))]);
+        break;
+      default:
+        text.insert(at, 1, static_cast<char>(random()));
+        break;
     }
   }
   return text;

@@ -12,7 +12,7 @@ using namespace zelko::test;
 namespace {
 
 std::string_view cacheRow(int i) { return rowBytes(recCache[static_cast<std::size_t>(i + 2)]); }
-std::string data(std::string_view cells) { return record(cells).substr(0, kDataBytes); }
+std::string dataOf(std::string_view cells) { return record(cells).substr(0, kDataBytes); }
 
 // The step down of the editor, as far as the store knows it.
 void goTo(std::int32_t target) {
@@ -31,9 +31,9 @@ TEST_CASE("opening fills the cache: records, then slashes; an empty table has it
   StoreFixture store;
   store.table("t.txt", {6}, {"one", "two"});
   REQUIRE(store.open("t.txt"));
-  CHECK(rowBytes(recCache[1]) == data("one"));
-  CHECK(cacheRow(0) == data("one"));
-  CHECK(cacheRow(1) == data("two"));
+  CHECK(rowBytes(recCache[1]) == dataOf("one"));
+  CHECK(cacheRow(0) == dataOf("one"));
+  CHECK(cacheRow(1) == dataOf("two"));
   CHECK(cacheRow(2) == slashRec);
   CHECK(cacheRow(19) == slashRec);
   CHECK(currentRow().back() == '\n');
@@ -65,10 +65,10 @@ TEST_CASE("flushRec stores what the row holds, and nothing blank beyond the coun
   };
   const std::string one = record("one"), two = record("two");
   const Row rows[] = {
-      {"new line left blank", 3, data(""), one + two},
+      {"new line left blank", 3, dataOf(""), one + two},
       {"new line outside the file", 3, slashRec, one + two},
-      {"new line with text", 3, data("new"), one + two + record("new")},
-      {"record blanked", 1, data(""), record("") + two},
+      {"new line with text", 3, dataOf("new"), one + two + record("new")},
+      {"record blanked", 1, dataOf(""), record("") + two},
       {"record of slashes", 2, slashRec, one + slashRec + "\r\n"},
   };
   for (const Row& row : rows) {
@@ -135,7 +135,7 @@ TEST_CASE("the cache is centred on a record, and scrolls up by one") {
     CHECK(cacheBase == row.base);
     for (int i = 0; i < cacheSize; ++i) {
       const std::int32_t number = cacheBase + i;
-      CHECK(cacheRow(i) == (number <= 60 ? data(std::to_string(number)) : blankRec));
+      CHECK(cacheRow(i) == (number <= 60 ? dataOf(std::to_string(number)) : blankRec));
     }
   }
   cacheSize = 20;
@@ -145,9 +145,9 @@ TEST_CASE("the cache is centred on a record, and scrolls up by one") {
   putRec(1, 20, record("on disk"));
   cacheScrollUp();
   CHECK(cacheBase == 20);
-  CHECK(cacheRow(0) == data("on disk"));
-  CHECK(cacheRow(6) == data("unsaved"));
-  CHECK(cacheRow(19) == data("39"));
+  CHECK(cacheRow(0) == dataOf("on disk"));
+  CHECK(cacheRow(6) == dataOf("unsaved"));
+  CHECK(cacheRow(19) == dataOf("39"));
   cacheBase = 1;
   cacheScrollUp();
   CHECK(cacheBase == 1);
@@ -197,9 +197,9 @@ TEST_CASE("behind the last item a record is blank once that item is written") {
   store.table("t.txt", {3, 3}, {"abcdefleft over"});
   REQUIRE(store.open("t.txt"));
   setCell(currentRow(), 0, u"A");
-  CHECK(rowBytes(currentRow()) == data("A  defleft over"));
+  CHECK(rowBytes(currentRow()) == dataOf("A  defleft over"));
   setCell(currentRow(), 1, u"D");
-  CHECK(rowBytes(currentRow()) == data("A  D"));
+  CHECK(rowBytes(currentRow()) == dataOf("A  D"));
 }
 
 TEST_CASE("a last cell that reaches over the line end") {
@@ -235,7 +235,7 @@ TEST_CASE("random edits against a plain second store") {
   StoreFixture store;
   store.table("t.txt", widths, {"first"}, {0, 4});
   REQUIRE(store.open("t.txt"));
-  std::vector<std::string> plain = {data("first")};
+  std::vector<std::string> plain = {dataOf("first")};
   for (int step = 0; step < 3000; ++step) {
     const std::size_t item = upTo(widths.size());
     const Sample& sample = samples[upTo(std::size(samples))];
@@ -248,7 +248,7 @@ TEST_CASE("random edits against a plain second store") {
     for (std::size_t i = 0; i < item; ++i) start += static_cast<std::size_t>(widths[i]);
 
     const auto at = static_cast<std::size_t>(curRec - 1);
-    std::string row = at < plain.size() ? plain[at] : data("");
+    std::string row = at < plain.size() ? plain[at] : dataOf("");
     setCell(currentRow(), static_cast<int>(item), sample.text);
     row.replace(start, width, cell);
     if (at < plain.size()) plain[at] = row;
