@@ -1,6 +1,7 @@
 #include "editor/cellcommands.h"
 
 #include "editor/commands.h"
+#include "editor/commit.h"
 #include "editor/exit.h"
 #include "editor/form1.h"
 #include "editor/itemlist.h"
@@ -58,10 +59,9 @@ void copyCellToBox() {
 
 void clearCell() {
   lastCleared = currentCell();
-  moveFlag = 1;
+  MoveScope moving;
   commitCell();
   nextItem();
-  moveFlag = 0;
 }
 
 void registerCellCommands() {
@@ -99,14 +99,10 @@ void wireLabels(Form1& main) {
   main.Label8.onClick = serves(u"mnuLIMIT");
   main.Label9.onClick = serves(u"mnuRL");
   main.lblWIDTH.onClick = serves(u"mnuFLN");
-  main.Command1.onClick = serves(u"mnuCTRLU");
-  main.Command2.onClick = serves(u"mnuCTRLD");
   main.Command3.onClick = [] {
     listCaller = 84;
     runCommand(u"mnuItemList");
   };
-  main.Command4.onClick = serves(u"mnuSPITEM");
-  main.Command5.onClick = serves(u"mnuLIMIT");
 }
 
 }  // namespace zelko

@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "editor/commands.h"
+#include "editor/commit.h"
 #include "editor/exit.h"
 #include "editor/form1.h"
 #include "editor/jumps.h"
@@ -26,9 +27,6 @@ namespace {
 
 TextBox& box() { return form<Form1>().txtinputbox; }
 bool boxIsBlank() { return trimmed(box().content()).empty(); }
-
-// Cursor to a record and item, with the row stored first and the numbering ended.
-void jump(std::int32_t record, int item) { jumpTo(record, static_cast<std::int16_t>(item)); }
 
 // --- The rows of the table of keys; each says whether it used the key. -------------------------------------
 
@@ -117,7 +115,7 @@ bool page(int direction) {
   const std::int64_t wanted = std::int64_t{curRec} + direction * cacheSize;
   const auto kept = static_cast<std::int32_t>(std::clamp<std::int64_t>(wanted, 1, last));
   if (kept != wanted) host().beep();
-  jump(kept, curItem);
+  goTo(kept, curItem);
   return true;
 }
 
@@ -217,8 +215,7 @@ void sumKeyDown(int code) {
 
 void escape(bool rangeDropped) {
   if (!box().content().empty()) {
-    emptyInputBox();
-    showTyping({});
+    box().setText({});  // heard as an edit
   } else if (!rangeDropped) {
     askToLeave();
   }
@@ -229,10 +226,8 @@ bool runKeyRow(const KeyEvent& key) {
   const auto row =
       std::find_if(std::begin(kKeyRows), std::end(kKeyRows), [&](const KeyRow& r) { return key.is(r.code, r.mask); });
   if (row == std::end(kKeyRows)) return false;
-  moveFlag = 1;
-  const bool used = row->act(row->argument);
-  moveFlag = 0;
-  return used;
+  MoveScope moving;
+  return row->act(row->argument);
 }
 
 // What the key does; true when it was used up.

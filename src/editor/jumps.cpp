@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "editor/commands.h"
+#include "editor/commit.h"
 #include "editor/moves.h"
 #include "editor/state.h"
 #include "platform/host.h"
@@ -16,18 +17,6 @@ namespace zelko {
 
 namespace {
 
-// The echo of the box stands still while a move empties it.
-class Moving {
- public:
-  Moving() : kept_(moveFlag) { moveFlag = 1; }
-  ~Moving() { moveFlag = kept_; }
-  Moving(const Moving&) = delete;
-  Moving& operator=(const Moving&) = delete;
-
- private:
-  std::int16_t kept_;
-};
-
 std::int16_t firstDataItem() { return itemCount == 0 ? std::int16_t{0} : std::int16_t{1}; }
 
 void goToItem(std::int16_t item) {
@@ -39,45 +28,45 @@ void goToItem(std::int16_t item) {
 }  // namespace
 
 void goToFirstRecord() {
-  Moving moving;
+  MoveScope moving;
   commitBox();
   cacheBase = 1;
-  jumpTo(1, curItem);
+  goTo(1, curItem);
 }
 
 void goToLastRecord() {
-  Moving moving;
+  MoveScope moving;
   commitBox();
-  jumpTo(std::max(recCount(), 1), curItem);
+  goTo(std::max(recCount(), 1), curItem);
 }
 
 void goToNewLine() {
-  Moving moving;
+  MoveScope moving;
   commitBox();
-  jumpTo(recCount() + 1, curItem);
+  goTo(recCount() + 1, curItem);
 }
 
 void goToLastItem() {
-  Moving moving;
+  MoveScope moving;
   commitBox();
   goToItem(itemCount);
 }
 
 void goToFirstItem() {
-  Moving moving;
+  MoveScope moving;
   commitBox();
   goToItem(firstDataItem());
 }
 
 void goHome() {
-  Moving moving;
+  MoveScope moving;
   commitBox();
   cacheBase = 1;
-  jumpTo(1, firstDataItem());
+  goTo(1, firstDataItem());
 }
 
 void goToNextRecordStart() {
-  Moving moving;
+  MoveScope moving;
   commitBox();
   if (curRec <= recCount()) curItem = firstDataItem();
   nextRec(curItem);
@@ -95,9 +84,9 @@ void askRecord() {
       talkAsk(u"第何記録に飛びますか？（なお、＋－付きで数値を指定すると、今の記録からの相対指定になります",
               u"指定記録へ移動", {});
   if (trimmed(answer).empty()) return;
-  Moving moving;
+  MoveScope moving;
   commitBox();
-  jumpTo(targetOf(answer, curRec, 1, recCount()), curItem);
+  goTo(targetOf(answer, curRec, 1, recCount()), curItem);
 }
 
 void askItem() {
@@ -105,7 +94,7 @@ void askItem() {
       talkAsk(u"第何項目に飛びますか？（なお、＋－付きで数値を指定すると、今の項目からの相対指定になります",
               u"指定項目へ移動", {});
   if (trimmed(answer).empty()) return;
-  Moving moving;
+  MoveScope moving;
   commitBox();
   goToItem(static_cast<std::int16_t>(targetOf(answer, curItem, 0, itemCount)));
 }

@@ -1,7 +1,7 @@
 #include "files/lunch.h"
 
 #include "editor/commands.h"
-#include "editor/entry.h"
+#include "editor/view.h"
 #include "editor/form1.h"
 #include "editor/speechmenu.h"
 #include "editor/state.h"
