@@ -1,6 +1,7 @@
 #include "files/diskboxes.h"
 
 #include "files/pickerwords.h"
+#include "platform/form.h"
 #include "store/notice.h"
 #include "voice/talk.h"
 
@@ -66,7 +67,24 @@ void DiskBoxes::folderOpened() {
   ++following_;
   drives_.setDrive(folders_.path());
   --following_;
-  if (following_ == 0) fire(onFolderChanged);
+  if (following_ > 0) return;
+  folderIsNews_ = true;
+  fire(onFolderChanged);
+  sayFolderReport();
+}
+
+bool DiskBoxes::sayFolderReport() {
+  if (!folderIsNews_ || talkMode == 0) return false;
+  if (!gateOpens()) return true;
+  folderIsNews_ = false;
+  ++composedSentences;
+  std::vector<Text> names;
+  for (const Text& listed : files_.entries()) {
+    names.push_back(spokenName(shownName(listed)));
+    if (names.size() == kNamesInReport) break;
+  }
+  talkNow(folderReport(files_.path(), names, boxWord(files_.form().activeControl())));
+  return true;
 }
 
 void DiskBoxes::driveChosen() {

@@ -24,8 +24,14 @@ class DiskBoxes {
   // What the two boxes add to a report: the drive, the folder.
   Text whereItStands(const Control* focused) const;
 
-  // The user has changed the folder, and the list shows it.
+  // After the user has changed the folder: the report of it, kept as news while the gate is shut, so that the next move
+  // in the list tells it. False where there is no such news.
+  bool sayFolderReport();
+
+  // The user has changed the folder, and the list shows it; runs before the report.
   std::function<void()> onFolderChanged;
+  // How an entry of the list is called.
+  std::function<Text(TextView)> shownName;
 
  private:
   void openMarkedFolder();
@@ -37,6 +43,7 @@ class DiskBoxes {
   FolderBox& folders_;
   FileBox& files_;
   int following_ = 0;  // the boxes are being set by each other or the program, not by the user
+  bool folderIsNews_ = false;
 };
 
 }  // namespace zelko

@@ -18,18 +18,17 @@
 
 namespace zelko {
 
-Text frmDISK::ownName(TextView listed) const {
-  return job_->tables && !List1.visible() ? tableOfItemFile(listed) : Text(listed);
-}
+Text frmDISK::ownName(TextView listed) const { return job_->tables ? tableOfItemFile(listed) : Text(listed); }
 
-Text frmDISK::itemFile() const {
+// The chosen entry as File1 lists it, whichever list shows it.
+Text frmDISK::chosenEntry() const {
   const int index = list().listIndex();
-  return index < 0 ? Text() : boxes_.pathOf(File1.entries()[static_cast<std::size_t>(index)]);
+  return index < 0 ? Text() : File1.entries()[static_cast<std::size_t>(index)];
 }
 
 Text frmDISK::chosenFile() const {
   if (list().listIndex() < 0) return {};
-  const Text file = boxes_.pathOf(ownName(list().text()));
+  const Text file = boxes_.pathOf(ownName(chosenEntry()));
   // The data file may differ from its item file in the case of its letters.
   return job_->tables ? findIgnoringCase(file).value_or(file) : file;
 }
@@ -51,7 +50,7 @@ void frmDISK::openChosen() {
 
 void frmDISK::deleteChosen() {
   const int index = list().listIndex();
-  if (deleteTable(chosenFile(), itemFile())) afterDeletion(index);
+  if (deleteTable(chosenFile(), boxes_.pathOf(chosenEntry()))) afterDeletion(index);
 }
 
 void frmDISK::deleteMarked() {
@@ -65,7 +64,7 @@ void frmDISK::afterDeletion(int index) {
   File1.refresh();
   fillList1();
   list().setListIndex(std::min(index, list().count() - 1));
-  Text1.setText(ownName(list().text()));
+  Text1.setText(ownName(chosenEntry()));
 }
 
 void frmDISK::frmDISK_Command2_Click() {
@@ -97,7 +96,7 @@ void frmDISK::frmDISK_cmdNOTZLK_Click() {
   if (toAllFiles)
     talkD(*this, u"Zelkoファイルでないファイルの読み込みへ");
   else
-    talkD(*this, job_->caption + Text(job_->prompt));
+    talkD(*this, Text(job_->caption) + Text(job_->prompt));
 }
 
 void frmDISK::frmDISK_list_KeyUp(KeyEvent& key) {
@@ -124,7 +123,7 @@ void frmDISK::frmDISK_File1_KeyPress(CharEvent& event) {
   host().beep();
 }
 
-void frmDISK::dispItem() { showItems(ownName(File1.text())); }
+void frmDISK::dispItem() { showItems(ownName(chosenEntry())); }
 
 void frmDISK::dispOItem() { showItems(List1.text()); }
 

@@ -12,14 +12,18 @@ frmDISK::frmDISK() : Form(kName, u"Zelkoﾌｧｲﾙ指定"), job_(&pickerJob(mo
   writeHints();
   boxes_.open(appDir);
   takeJob();
-  boxes_.onFolderChanged = [this] { folderChanged(); };
+  boxes_.onFolderChanged = [this] {
+    fillList1();
+    Text1.setText({});
+  };
+  boxes_.shownName = [this](TextView listed) { return ownName(listed); };
   wireLists();
   wireButtons();
   onActivate = [this] { frmDISK_Activate(); };
   onKeyUp = [this](KeyEvent& key) { frmDISK_KeyUp(key); };
   onClose = [this] { frmDISK_Command3_Click(); };
   narrate();
-  File1.setFocus();
+  list().setFocus();
 }
 
 void frmDISK::writeHints() {
@@ -61,7 +65,7 @@ void frmDISK::wireButtons() {
 void frmDISK::narrate() {
   const Sentence listSentence = [this] {
     if (list().count() == 0) return u"ファイル、" + Text(kNoFileHere) + u"ﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽ";
-    return u"ファイル、" + spokenName(ownName(list().text())) + u"ﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽ";
+    return u"ファイル、" + spokenName(ownName(chosenEntry())) + u"ﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽ";
   };
   Narration voice(*this);
   voice.explain([this] { return pickerHelp(*job_); });
@@ -119,7 +123,7 @@ Text frmDISK::activeReport() const {
   } else if (focused && focused->kind() == ControlKind::commandButton) {
     where = buttonReport(*focused);
   }
-  return fileReport(ownName(list().text()), where);
+  return fileReport(ownName(chosenEntry()), where);
 }
 
 Text frmDISK::buttonReport(const Control& button) const {
@@ -132,32 +136,10 @@ Text frmDISK::buttonReport(const Control& button) const {
 }
 
 void frmDISK::frmDISK_list_Click() {
-  Text1.setText(ownName(list().text()));
-  if (list().listIndex() < 0 || sayFolderReport() || !gateOpens()) return;
+  Text1.setText(ownName(chosenEntry()));
+  if (list().listIndex() < 0 || boxes_.sayFolderReport() || !gateOpens()) return;
   ++composedSentences;
   talkNow(spokenName(Text1.content()) + u"ﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽ");
-}
-
-void frmDISK::folderChanged() {
-  folderIsNews_ = true;
-  fillList1();
-  Text1.setText({});
-  sayFolderReport();
-}
-
-// Kept as news while the gate is shut: the next move in the list tells it then. False where there is no such news.
-bool frmDISK::sayFolderReport() {
-  if (!folderIsNews_ || talkMode == 0) return false;
-  if (!gateOpens()) return true;
-  folderIsNews_ = false;
-  ++composedSentences;
-  std::vector<Text> names;
-  for (const Text& listed : File1.entries()) {
-    names.push_back(spokenName(ownName(listed)));
-    if (names.size() == kNamesInReport) break;
-  }
-  talkNow(folderReport(File1.path(), names, boxWord(activeControl())));
-  return true;
 }
 
 }  // namespace zelko

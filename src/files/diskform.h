@@ -53,8 +53,6 @@ class frmDISK : public Form {
   void frmDISK_Command4_Click();
   void frmDISK_cmdNOTZLK_Click();
 
-  void folderChanged();
-  bool sayFolderReport();
   void openChosen();
   void deleteChosen();
   void deleteMarked();
@@ -66,14 +64,13 @@ class frmDISK : public Form {
 
   ListBox& list() { return List1.visible() ? List1 : File1; }
   const ListBox& list() const { return List1.visible() ? List1 : static_cast<const ListBox&>(File1); }
-  Text itemFile() const;  // the chosen entry of File1
+  Text chosenEntry() const;
   Text ownName(TextView listed) const;
 
   DiskBoxes boxes_{Drive1, Dir1, File1};
   const PickerJob* job_;
-  bool opened_ = false;         // the opening sentence is said
-  bool folderIsNews_ = false;   // the folder was changed and its report not heard yet
-  int heldKey_ = 0;             // a key whose press the list has seen: a release alone was meant for another form
+  bool opened_ = false;  // the opening sentence is said
+  int heldKey_ = 0;      // a key whose press the list has seen: a release alone was meant for another form
 };
 
 }  // namespace zelko

@@ -5,7 +5,8 @@
 
 namespace zelko {
 
-// Takes the table of that data file as the reference, and hands over to the command "REF". The table in edit is refused.
+// Takes the table of that data file as the reference, and hands over to the command "REF". The table in edit is
+// refused.
 void refFileacs(TextView dataFile);
 
 // Reads the item file of a reference into the second set, with its name in otherDrive and otherPath. `error` is empty,
