@@ -1,5 +1,6 @@
 #include "editor/form1.h"
 
+#include "editor/cellcommands.h"
 #include "editor/commands.h"
 #include "editor/dispatcher.h"
 #include "editor/exit.h"
@@ -23,6 +24,7 @@ Form1::Form1() : Form(kName, u"Zelko") {
   wireInputBox();
   wireBoxes();
   wireButtons();
+  wireLabels(*this);
   wireForm();
   labelBoxes();
   narrate();

@@ -1,5 +1,6 @@
 #include "editor/editor_fixture.h"
 
+#include "editor/cellcommands.h"
 #include "editor/state.h"
 #include "editor/view.h"
 #include "store/cursor.h"
@@ -22,6 +23,7 @@ EditorFixture::EditorFixture() {
   resetCursor();
   resetEditor();
   resetTalk();
+  registerCellCommands();
   appDir = fromUtf8(folder().string()) + u"/";
 }
 

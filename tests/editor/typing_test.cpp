@@ -62,7 +62,7 @@ TEST_CASE_FIXTURE(EditorFixture, "a typed cell") {
        "1  abcde 80"},
       {"keeps the arrows for its caret",
        {"commit xy", "Left", "type a", "Down"},
-       {"say xy ざん3バイト", "say ｴｰ 挿入 ざん2バイト", "say ﾌﾞﾗﾝｸ  ｷﾞｮｳ2 ｺｳﾓｸ1氏名"},
+       {"say xy ざん3バイト", "say ﾜｲ", "say ｴｰ 挿入 ざん2バイト", "say ﾌﾞﾗﾝｸ  ｷﾞｮｳ2 ｺｳﾓｸ1氏名"},
        "1  xay   80"},
       {"is named as it is erased",
        {"commit xy", "Backspace", "Backspace", "Enter", "Down"},
