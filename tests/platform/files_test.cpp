@@ -150,7 +150,7 @@ TEST_CASE("a record that cannot be written whole leaves the file as it was") {
   const Folder folder;
   const std::string before = "record-1record-2ta";
   REQUIRE(openRandom(1, folder.with("t", before), 8) == FileError::none);
-  for (const rlim_t limit : {0, 3, 10, 18, 20, 23}) {
+  for (const unsigned limit : {0U, 3U, 10U, 18U, 20U, 23U}) {
     CAPTURE(limit);
     {
       const FullDisk full(limit);
@@ -290,7 +290,7 @@ TEST_CASE("text writes replace or lengthen a file") {
   REQUIRE(openOutput(3, path) == FileError::none);
   std::string wanted;
   for (int i = 0; i < 20000; ++i) {
-    CHECK(printLine(3, u"ｱ123456") == FileError::none);
+    REQUIRE(printLine(3, u"ｱ123456") == FileError::none);
     wanted +=
         "\xB1"
         "123456\r\n";
