@@ -72,8 +72,9 @@ void Player::play(const Action& action) {
       host_.deliverLater(static_cast<int>(action.number), [this, then = action.then] { act(*then); });
       return;
     default:
-      return act(action);
+      act(action);
   }
+  host_.idle();
 }
 
 void Player::act(const Action& action) {
