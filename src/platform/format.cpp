@@ -169,7 +169,10 @@ class Filler {
         place(result);
         continue;
       }
-      if (token.kind == Token::Kind::point) behindPoint_ = true;
+      if (token.kind == Token::Kind::point) {
+        wholeDigits(result, 0);  // all of them, where no place stood in front of the point
+        behindPoint_ = true;
+      }
       result += token.unit;
       if (token.kind != Token::Kind::exponent) continue;
       result.append(exponent_.begin(), exponent_.end());
@@ -206,7 +209,11 @@ class Filler {
       return;
     }
     // The first place takes all digits that have no place of their own.
-    const auto behind = static_cast<std::size_t>(section_.wholePlaces - ++wholePlace_);
+    wholeDigits(result, static_cast<std::size_t>(section_.wholePlaces - ++wholePlace_));
+  }
+
+  // Lays down the whole digits up to those that `behind` further places take.
+  void wholeDigits(Text& result, std::size_t behind) {
     while (wholeDigit_ < whole_.size() && whole_.size() - wholeDigit_ > behind) {
       result += static_cast<char16_t>(whole_[wholeDigit_++]);
       const std::size_t left = whole_.size() - wholeDigit_;

@@ -46,6 +46,13 @@ FileError mayWrite(const OpenFile& file, struct stat& status) {
   return readOnly ? FileError::pathAccess : FileError::none;
 }
 
+bool readBefore(const OpenFile& file, Place place, std::vector<char>& before) {
+  before.resize(place.size);
+  const std::ptrdiff_t got = readAt(file.descriptor, before.data(), place.size, place.offset);
+  before.resize(got > 0 ? static_cast<std::size_t>(got) : 0);
+  return got >= 0;
+}
+
 // Puts back what a failed write may have changed.
 void restore(const OpenFile& file, std::int64_t length, std::int64_t offset, const std::vector<char>& before) {
   // Nothing is left to be tried where this fails too.
@@ -80,10 +87,8 @@ FileError putRecord(int number, std::int32_t record, const char* bytes) {
   if (error != FileError::none) return error;
 
   const Place place = placeOf(*file, record);
-  std::vector<char> before(place.size);
-  const std::ptrdiff_t old = readAt(file->descriptor, before.data(), place.size, place.offset);
-  if (old < 0) return errorOfErrno(errno);
-  before.resize(static_cast<std::size_t>(old));
+  std::vector<char> before;
+  if (place.offset < status.st_size && !readBefore(*file, place, before)) return errorOfErrno(errno);
 
   error = writeAt(file->descriptor, bytes, place.size, place.offset);
   if (error != FileError::none) {
