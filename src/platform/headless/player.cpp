@@ -43,7 +43,6 @@ Player::Player(HeadlessHost& host, std::vector<Action> script, Text mainForm)
 bool Player::next() {
   if (at_ == script_.size()) return false;
   play(script_[at_++]);
-  host_.idle();
   return true;
 }
 
@@ -73,8 +72,9 @@ void Player::play(const Action& action) {
       host_.deliverLater(static_cast<int>(action.number), [this, then = action.then] { act(*then); });
       return;
     default:
-      return act(action);
+      act(action);
   }
+  host_.idle();
 }
 
 void Player::act(const Action& action) {

@@ -15,12 +15,13 @@ class Player {
 
   // Plays the next action; false where there is none. Throws ScriptError for one that can't be played now.
   bool next();
+  // Plays one action that stands in no script of this player.
+  void play(const Action& action);
   // What the transcript takes passes by here.
   void heard(std::string_view line);
   bool expectFailed() const { return expectFailed_; }
 
  private:
-  void play(const Action& action);
   void act(const Action& action);
   void type(const Action& action);
   void commit(const Action& action);

@@ -1,0 +1,159 @@
+// The way of one key: who sees it, who may stop it, what is left for the editor.
+#include <doctest/doctest.h>
+
+#include "fixture.h"
+#include "platform/routing.h"
+#include "platform/sampleform.h"
+
+using namespace zelko;
+
+namespace {
+
+struct Session : Fixture {
+  Session() {
+    run([] { form<SampleForm>().show(); });
+    said();
+  }
+  SampleForm& sample() { return form<SampleForm>(); }
+  void hearKeys() {
+    SampleForm& form = sample();
+    form.onKeyDown = [](KeyEvent& key) { tell(u"form down " + nameOfKey(key.code, key.mask)); };
+    form.onKeyUp = [](KeyEvent& key) { tell(u"form up " + nameOfKey(key.code, key.mask)); };
+    form.onKeyPress = [](CharEvent& typed) { tell(u"form press " + Text(1, typed.ch)); };
+    form.box.onKeyDown = [](KeyEvent& key) { tell(u"down " + nameOfKey(key.code, key.mask)); };
+    form.box.onKeyUp = [](KeyEvent& key) { tell(u"up " + nameOfKey(key.code, key.mask)); };
+    form.box.onKeyPress = [](CharEvent& typed) { tell(u"press " + Text(1, typed.ch)); };
+  }
+};
+
+}  // namespace
+
+TEST_CASE("a typed letter passes form, control, edit and change in this order") {
+  Session s;
+  s.hearKeys();
+  s.type(u"b");
+  CHECK(s.said() == "form down B / down B / form press b / press b / text b / form up B / up B");
+  s.press("Alt+N");
+  CHECK(s.said() == "form down Alt+N / down Alt+N / form up Alt+N / up Alt+N");
+  CHECK(s.sample().box.text() == u"b");
+}
+
+TEST_CASE("whoever swallows a key ends its way down, not its release") {
+  struct Row {
+    const char* where;
+    const char* heard;
+  };
+  for (const Row& row :
+       {Row{"form down", "form down B / form up B / up B"}, Row{"down", "form down B / down B / form up B / up B"},
+        Row{"form press", "form down B / down B / form press b / form up B / up B"},
+        Row{"press", "form down B / down B / form press b / press b / form up B / up B"}}) {
+    CAPTURE(row.where);
+    Session s;
+    s.hearKeys();
+    SampleForm& f = s.sample();
+    auto swallow = [](auto& handler, auto end) {
+      handler = [before = handler, end](auto& event) {
+        before(event);
+        end(event);
+      };
+    };
+    std::string where = row.where;
+    if (where == "form down") swallow(f.onKeyDown, [](KeyEvent& key) { key.swallow(); });
+    if (where == "down") swallow(f.box.onKeyDown, [](KeyEvent& key) { key.swallow(); });
+    if (where == "form press") swallow(f.onKeyPress, [](CharEvent& typed) { typed.ch = 0; });
+    if (where == "press") swallow(f.box.onKeyPress, [](CharEvent& typed) { typed.ch = 0; });
+    s.type(u"b");
+    CHECK(s.said() == row.heard);
+    CHECK(f.box.text() == u"");
+  }
+}
+
+TEST_CASE("a key whose handler opens a form is not typed into the box it left") {
+  Session s;
+  s.hearKeys();
+  s.sample().onKeyUp = nullptr;
+  s.sample().box.onKeyDown = [](KeyEvent&) {
+    SampleDialog& dialog = form<SampleDialog>();
+    dialog.box.onKeyUp = [](KeyEvent& key) { tell(u"dialog up " + nameOfKey(key.code, key.mask)); };
+    dialog.showModal();
+  };
+  s.said();
+  s.type(u"b");
+  CHECK(s.said() == "form down B / out box / active frmDialog / in box / dialog up B");
+  s.press("Esc");
+  // The release of Esc goes to what has the focus by then; that of the letter has been heard.
+  CHECK(s.said() == "active frmSample / in box / up Esc");
+  CHECK(s.sample().box.text() == u"");
+}
+
+TEST_CASE("Enter and Esc press the default and cancel buttons, and the focus stays") {
+  Session s;
+  s.press("Enter");
+  s.press("Esc");
+  CHECK(s.said() == "ok / cancel");
+  CHECK(s.sample().box.hasFocus());
+  s.sample().ok.setEnabled(false);
+  s.press("Enter");
+  CHECK(s.said() == "");
+  s.play("focus frmSample.cancel\nkey Enter\nkey Space\nkey Alt+K");
+  CHECK(s.said() == "out box / in cancel / cancel / cancel / out cancel / in check / checked");
+}
+
+TEST_CASE("menu: shortcuts, refusals and the walk by keys") {
+  Session s;
+  onMenuHighlight = [](const MenuEntry& entry) { tell(u"at " + entry.captionWithoutMarks()); };
+  auto after = [&](const char* lines) {
+    s.play(lines);
+    std::string heard = s.said();
+    if (auto events = s.events(); !events.empty() && events.back() == "beep") heard += heard.empty() ? "beep" : " beep";
+    return heard;
+  };
+  CHECK(after("key Ctrl+S") == "saved");
+  CHECK(after("menu mnuDEEP") == "deep");
+  CHECK(after("key F1") == "beep");
+  CHECK(after("key Alt+F") == "at Save(S)");
+  CHECK(s.sample().menu().highlighted() != nullptr);
+  CHECK(after("key Down") == "at More(M)");
+  CHECK(after("key Down") == "at Save(S)");
+  CHECK(after("key Up\nkey Right") == "at More(M) / at Deep(D)");
+  CHECK(after("key Esc") == "at More(M)");
+  CHECK(after("key Right\nkey Right") == "at Deep(D) / at Nobody(N)");
+  CHECK(after("key Left\nkey M\nkey D") == "at Save(S) / at Deep(D) / deep");
+  CHECK(s.sample().menu().highlighted() == nullptr);
+  CHECK(after("key Alt+E\nkey Enter") == "at Nobody(N) beep");
+  CHECK(after("key Alt+F\nkey X") == "at Save(S) beep");
+  CHECK(after("key Esc\nkey Z") == "text z");
+  s.sample().menu().setEnabled(u"mnuFILE", false);
+  CHECK(after("key Ctrl+S") == "beep");
+  s.sample().menu().setEnabled(u"mnuFILE", true);
+  s.sample().menu().setVisible(u"mnuSAVE", false);
+  CHECK(after("key Ctrl+S") == "beep");
+  CHECK(after("key Alt+F") == "at More(M)");
+  onMenuHighlight = nullptr;
+}
+
+TEST_CASE("long work lets only live forms have a key") {
+  Session s;
+  s.sample().ok.onClick = [&] {
+    for (int i = 0; i < 5; ++i) host().letEventsThrough();
+    form<SampleDialog>().liveDuringWork = true;
+    form<SampleDialog>().show();
+    for (int i = 0; i < 5; ++i) host().letEventsThrough();
+    tell(u"done");
+  };
+  s.play("later 2 key A\nlater 7 key B\nclick frmSample.ok");
+  CHECK(s.said() == "out box / in ok / out ok / active frmDialog / in box / text b / done");
+}
+
+TEST_CASE("every key name is its key, and back") {
+  KeyEvent key;
+  for (const char16_t* name : {u"A", u"9", u"F12", u"Num0", u"Shift+Ctrl+S", u"Alt+PageDown", u"Ctrl+Num5", u"Shift"}) {
+    REQUIRE(keyByName(name, key));
+    CHECK(nameOfKey(key.code, key.mask) == name);
+  }
+  REQUIRE(keyByName(u"Alt+Ctrl+Up", key));
+  CHECK(key.is(key::Up, shift::CtrlAlt));
+  for (const char16_t* name : {u"", u"a", u"F13", u"F0", u"F01", u"Num10", u"Ctrl+", u"Ctrl+Ctrl+A", u"down", u"あ"}) {
+    CHECK_FALSE(keyByName(name, key));
+  }
+}
