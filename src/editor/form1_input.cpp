@@ -15,10 +15,10 @@ namespace {
 
 std::size_t currentWidth() { return static_cast<std::size_t>(itemWidth[static_cast<std::size_t>(curItem)]); }
 
-// An edit that leaves the text no longer than it was fills no cell: a text brought back for editing can be shortened.
+// An edit that shortens the text fills no cell: a cell brought back for editing may be longer than the limit.
 bool hasFilledCell(const Text& text) {
   std::size_t bytes = sjisLength(text);
-  if (bytes <= sjisLength(lastInput)) return false;
+  if (bytes < sjisLength(lastInput)) return false;
   if (bytes >= currentWidth()) return true;
   return inputLimit != 0 && sjisLength(trimmed(text)) >= static_cast<std::size_t>(inputLimit);
 }
@@ -52,14 +52,10 @@ Text echoOf(const Text& text) {
   return charName(left(words, 1)) + mid(words, 2);
 }
 
-void echo(Form1& main) {
-  Text text = main.txtinputbox.text();
-  if (text != lastInput && gateOpens()) {
-    if (inputDrop == 1) return emptyInputBox();
-    talkNow(echoOf(text));
-  }
-  lastInput = text;
-  lastInputLen = static_cast<int>(text.size());
+void echo(const Text& text) {
+  if (moveFlag == 1 || text == lastInput || !gateOpens()) return;
+  if (inputDrop == 1) return emptyInputBox();
+  talkNow(echoOf(text));
 }
 
 }  // namespace
@@ -67,7 +63,9 @@ void echo(Form1& main) {
 void Form1::txtinputbox_Change() {
   showTyping(txtinputbox.content());
   if (!isFilling() && hasFilledCell(txtinputbox.content())) leaveFullCell(*this);
-  if (moveFlag != 1) echo(*this);
+  echo(txtinputbox.text());
+  lastInput = txtinputbox.text();
+  lastInputLen = static_cast<int>(lastInput.size());
 }
 
 void Form1::txtinputbox_KeyPress(CharEvent& event) {
