@@ -16,18 +16,26 @@ constexpr std::size_t kApostrophe = 6;                            // its positio
 constexpr std::size_t kNameStart = 7, kNameLength = 254 - 7 + 1;  // characters of a name line
 constexpr std::size_t kWidthLength = 11 - 7 + 1;                  // from the same place
 
-// A number of the file as a 16-bit integer; none where it does not fit, for a bad file is no fault of the program.
-std::optional<std::int16_t> wholeNumber(TextView text) {
+// A number of the file, and one as a 16-bit integer; none where it does not fit, for a bad file is no fault of the
+// program.
+template <class Reading>
+auto numberOf(TextView text, Reading reading) -> std::optional<decltype(reading(val(text)))> {
   try {
-    return toInt16(val(text));
+    return reading(val(text));
   } catch (const Fault&) {
     return std::nullopt;
   }
 }
+std::optional<double> numberOf(TextView text) {
+  return numberOf(text, [](double value) { return value; });
+}
+std::optional<std::int16_t> wholeNumber(TextView text) { return numberOf(text, toInt16); }
 
-bool beginsAsItemFile(TextView field) {
-  // Up to the apostrophe there is room for a value beyond 16 bits; that is not below 100 either.
-  return positionOf(field, u"'") == kApostrophe && wholeNumber(left(field, kApostrophe - 1)).value_or(100) >= 100;
+ReadResult checkFirstLine(std::int16_t count, TextView head) {
+  if (count < 0 || count > kHighestItem || positionOf(head, u"'") != kApostrophe) return ReadResult::notATable;
+  const auto number = numberOf(head);
+  if (!number) return ReadResult::broken;
+  return *number < 100 ? ReadResult::notATable : ReadResult::ok;
 }
 
 ReadResult readFirstLine(std::int16_t& count, Text& memo) {
@@ -37,7 +45,7 @@ ReadResult readFirstLine(std::int16_t& count, Text& memo) {
   const auto value = wholeNumber(number);
   if (!value) return ReadResult::broken;
   count = *value;
-  return count >= 0 && count <= kHighestItem && beginsAsItemFile(head) ? ReadResult::ok : ReadResult::notATable;
+  return checkFirstLine(count, head);
 }
 
 bool readName(ItemLine& item) {

@@ -1,8 +1,6 @@
 // What makes an item file readable, what the user is told where it is not, and how it is written.
 #include <doctest/doctest.h>
 
-#include <numeric>
-
 #include "platform/files.h"
 #include "platform/sjis.h"
 #include "store/mainform.h"
@@ -54,7 +52,7 @@ TEST_CASE("an item file opens, or its own message is told") {
       {"an apostrophe before the one at 6", oneItem("100 '',,,0"), kBad},
       {"value 1000", oneItem("1000 ',,,0"), u""},
       {"value beyond 16 bits", oneItem("99999',,,0"), u""},
-      {"value beyond any number", oneItem("9E999',,,0"), u""},
+      {"value beyond any number", oneItem("9E999',,,0"), kBroken},
       {"a count of more items than lines", oneItem("100  ',,,1"), kBroken},
       {"empty", "", kBroken},
       {"one long line", name100k, kBroken},
@@ -197,6 +195,24 @@ TEST_CASE("an item file is written as it is read") {
   readKFile(docPath, docDrive, error);
   CHECK(error.empty());
   CHECK(itemName[1] == u"氏名");
+}
+
+TEST_CASE("the documented example opens, and comes back byte for byte") {
+  StoreFixture store;
+  const std::filesystem::path example = ZELKO_SOURCE_DIR "/tests/data/table-format";
+  for (const auto& entry : std::filesystem::directory_iterator(example))
+    std::filesystem::copy(entry.path(), store.path(entry.path().filename().string()));
+  const std::string item = store.bytes("K会員名簿.txt"), data = store.bytes("会員名簿.txt");
+  REQUIRE(store.open("会員名簿.txt"));
+  CHECK(tableMemo == u"会員名簿");
+  CHECK(recCount() == 3);
+  CHECK(trimmed(cellAt(3, 1)) == u"十河　ソノ子");
+  CHECK(cellAt(1, 2) == u"   85");
+  for (int i = 0; i <= itemCount; ++i) setCell(currentRow(), i, trimmed(cellOfRow(currentRow(), i)));
+  CHECK(flushRec());
+  CHECK(writeKFile(docPath, docDrive));
+  CHECK(store.bytes("K会員名簿.txt") == item);
+  CHECK(store.bytes("会員名簿.txt") == data);
 }
 
 TEST_CASE("an item file that cannot be written stands as it was") {
