@@ -64,6 +64,8 @@ class Host {
   virtual void formCaptionChanged(Form&) {}
   virtual void controlChanged(Control&, Property) {}
   virtual void menuChanged(Form&) {}
+  // True where the host opened the menu of that entry of the bar itself: its keys belong to the host until it closes.
+  virtual bool opensMenu(Form&, MenuEntry&) { return false; }
   // A form became active, or the focus moved inside the active one.
   virtual void focusMoved(Form&, Control*) {}
 

@@ -108,7 +108,7 @@ void Menu::choose(MenuEntry& entry) {
 void Menu::open(MenuEntry& barEntry) {
   Screen::HandlerScope scope;
   if (barEntry.children.empty()) return choose(barEntry);
-  enter(barEntry);
+  if (!host().opensMenu(form_, barEntry)) enter(barEntry);
 }
 
 // Into an entry with children: its first child, or itself where none is shown.

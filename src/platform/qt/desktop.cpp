@@ -1,0 +1,61 @@
+#include "platform/qt/desktop.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QTimer>
+
+#include "platform/fault.h"
+#include "platform/files.h"
+#include "platform/form.h"
+#include "platform/qt/look.h"
+#include "platform/qt/qstring.h"
+#include "platform/qt/qthost.h"
+
+namespace zelko {
+
+namespace {
+
+constexpr int kFaultStatus = 3;
+
+// The text stays on the screen, and its sentence on the clipboard, until the user has taken notice of it.
+void tellFault(QtHost& host, TextView text) {
+  host.sayOnClipboard(text);
+  QMessageBox box(QMessageBox::Critical, QStringLiteral("Zelko"), toQt(text), QMessageBox::Ok);
+  constexpr int kLongestMilliseconds = 30'000;
+  QTimer::singleShot(kLongestMilliseconds, &box, &QDialog::accept);
+  box.exec();
+}
+
+int runProgram(QtHost& host, const std::function<void()>& startProgram) {
+  try {
+    host.run(startProgram);
+  } catch (const ProgramEnd&) {
+    return 0;
+  } catch (const Fault& fault) {
+    closeAll();
+    tellFault(host, fault.text);
+    return kFaultStatus;
+  }
+  return 0;
+}
+
+}  // namespace
+
+DesktopHooks& desktopHooks() {
+  static DesktopHooks hooks;
+  return hooks;
+}
+
+int runDesktop(int argc, char** argv, const std::function<void()>& startProgram) {
+  QApplication application(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("zelko"));
+  dress(application);
+  QtHost host;
+  setHost(&host);
+  const int status = runProgram(host, startProgram);
+  fire(desktopHooks().onEnd);
+  screen().reset();
+  return status;
+}
+
+}  // namespace zelko

@@ -1,0 +1,31 @@
+// How everything looks: large type, the colours of the desktop, and a frame that shows where the focus is.
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+class QApplication;
+
+namespace zelko {
+
+// Type of at least 14 points, Japanese fonts in place of those that the printing forms name, and menus that open by
+// Alt and a letter only.
+void dress(QApplication& application);
+
+// A thick frame round the control that has the focus.
+class FocusFrame : public QWidget {
+ public:
+  explicit FocusFrame(QWidget& page);
+  // Null hides it.
+  void surround(QWidget* target);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void paintEvent(QPaintEvent*) override;
+
+ private:
+  void follow();
+  QPointer<QWidget> target_;
+};
+
+}  // namespace zelko

@@ -1,0 +1,137 @@
+#include <doctest/doctest.h>
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QPushButton>
+
+#include "desktop/desk.h"
+#include "platform/qt/layout.h"
+
+namespace zelko {
+
+namespace {
+
+// Widgets with the same parent must not lie on each other, nor be cut off by it.
+void checkNothingOverlaps(const Form& form, const FormWindow& window) {
+  for (const Control* a : form.controls()) {
+    const View* one = window.viewOf(*a);
+    if (!one->widget || !one->widget->isVisible()) continue;
+    CAPTURE(toUtf8(a->fullName()));
+    CHECK(one->widget->parentWidget()->rect().contains(one->widget->geometry()));
+    CHECK(one->widget->height() >= one->widget->minimumSizeHint().height());
+    for (const Control* b : form.controls()) {
+      const View* other = window.viewOf(*b);
+      if (a == b || !other->widget || other->widget->parentWidget() != one->widget->parentWidget()) continue;
+      CAPTURE(toUtf8(b->fullName()));
+      CHECK_FALSE(one->widget->geometry().intersects(other->widget->geometry()));
+    }
+  }
+}
+
+void saveShot(FormWindow& window, const QString& name) {
+  const QString folder = qEnvironmentVariable("ZELKO_SHOTS");
+  if (!folder.isEmpty()) CHECK(window.grab().save(folder + "/" + name + ".png"));
+}
+
+}  // namespace
+
+TEST_CASE("every control that is seen has a widget with a name, and nothing overlaps in small or large type") {
+  const QFont usual = QApplication::font();
+  for (const int percent : {100, 200}) {
+    CAPTURE(percent);
+    QFont font = usual;
+    font.setPointSizeF(usual.pointSizeF() * percent / 100);
+    QApplication::setFont(font);
+    Desk desk;
+    auto& all = form<FormOfAll>();
+    all.show();
+    Desk::letEventsRun();
+    FormWindow& window = *desk.host.windowOf(all);
+    window.resize(window.size().expandedTo({400 * percent / 100, 1000 * percent / 100}));
+    Desk::letEventsRun();
+    for (const Control* control : all.controls()) {
+      CAPTURE(toUtf8(control->fullName()));
+      const bool seen = control != &all.Catcher && control != &all.Timer1;
+      const View* view = window.viewOf(*control);
+      REQUIRE((view->widget != nullptr) == seen);
+      if (seen) CHECK_FALSE(view->widget->accessibleName().isEmpty());
+    }
+    CHECK(desk.widgetOf(all.Text1).accessibleName() == "データ入力(D)");
+    CHECK(desk.widgetOf(all.Command2).accessibleDescription() == "何もせずに閉じます");
+    checkNothingOverlaps(all, window);
+    saveShot(window, QString("form-%1").arg(percent));
+  }
+  QApplication::setFont(usual);
+}
+
+TEST_CASE("rows follow the declaration: labels beside their boxes, buttons and options together") {
+  Desk desk;
+  auto& all = form<FormOfAll>();
+  const auto rows = planRows(all);
+  const auto names = [](const LayoutRow& row) {
+    Text out;
+    for (const LayoutCell& cell : row)
+      out += (cell.label ? cell.label->name() + u":" : Text()) + cell.control->fullName() + u" ";
+    return out;
+  };
+  std::vector<Text> found;
+  for (const auto& row : rows) found.push_back(names(row));
+  CHECK(found == std::vector<Text>{u"Label1:Text1 Label2:Text2 ", u"Label3 ", u"Rich1 ", u"Check1 ", u"Frame1 ",
+                                   u"Combo1 ", u"List1 ", u"Picture1 ", u"Grid1 ", u"Command1 Command2 "});
+  CHECK(names(planRows(all, &all.Frame1).at(0)) == u"Option1(0) Option1(1) ");
+}
+
+TEST_CASE("what the program changes is seen, and what the mouse does goes through the model") {
+  Desk desk;
+  auto& all = form<FormOfAll>();
+  int clicks = 0;
+  all.Check1.onClick = [&] { ++clicks; };
+  all.show();
+  Desk::letEventsRun();
+  auto& check = static_cast<QAbstractButton&>(desk.widgetOf(all.Check1));
+  check.click();
+  CHECK(all.Check1.value() == 1);
+  CHECK(check.isChecked());
+  CHECK(all.activeControl() == &all.Check1);
+  all.Check1.setValue(0);
+  CHECK_FALSE(check.isChecked());
+  CHECK(clicks == 2);
+  all.Command1.setEnabled(false);
+  CHECK_FALSE(desk.widgetOf(all.Command1).isEnabled());
+  all.Label1.setCaption(u"別の名前");
+  CHECK(desk.widgetOf(all.Text1).accessibleName() == "別の名前");
+}
+
+TEST_CASE("a list of 20,000 entries is there at once and answers arrows at once") {
+  Desk desk;
+  auto& all = form<FormOfAll>();
+  all.show();
+  all.List1.setFocus();
+  QElapsedTimer clock;
+  clock.start();
+  for (int i = 0; i < 20'000; ++i) all.List1.add(u"ファイル" + fromUtf8(std::to_string(i)));
+  Desk::letEventsRun();
+  for (int i = 0; i < 100; ++i) Desk::press(Qt::Key_Down);
+  CHECK(clock.elapsed() < 2000);
+  CHECK(all.List1.listIndex() == 99);
+  auto& list = static_cast<QAbstractItemView&>(desk.widgetOf(all.List1));
+  CHECK(list.currentIndex().row() == 99);
+  CHECK(list.visualRect(list.currentIndex()).intersects(list.viewport()->rect()));
+}
+
+TEST_CASE("a form shown beside another stands below it and leaves it the focus") {
+  Desk desk;
+  auto& all = form<FormOfAll>();
+  all.show();
+  form<Dialog>().showWithoutFocus();
+  Desk::letEventsRun();
+  const FormWindow& above = *desk.host.windowOf(all);
+  const FormWindow& below = *desk.host.windowOf(form<Dialog>());
+  CHECK(below.isVisible());
+  CHECK(below.y() > above.y());
+  CHECK(screen().activeForm() == &all);
+  CHECK(QApplication::activeWindow() == &above);
+}
+
+}  // namespace zelko
