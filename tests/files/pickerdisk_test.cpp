@@ -1,12 +1,10 @@
 // Folders as bad as they come: each meets a sentence, and the picker goes on.
 #include <unistd.h>
 
-#include <chrono>
+#include <ctime>
 #include <filesystem>
 
-#include "files/diskform.h"
 #include "files/files_fixture.h"
-#include "files/pickerwords.h"
 
 using namespace zelko;
 using namespace zelko::test;
@@ -15,10 +13,11 @@ namespace fs = std::filesystem;
 
 namespace {
 
+// Of the processor: others may be at work on the machine.
 double secondsOf(const std::function<void()>& work) {
-  const auto start = std::chrono::steady_clock::now();
+  const std::clock_t start = std::clock();
   work();
-  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+  return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
 }
 
 }  // namespace
@@ -49,6 +48,7 @@ TEST_CASE_FIXTURE(FilesFixture, "a folder that can't be opened") {
     play({"key Enter"});
     CHECK(play({"key Shift+PageDown"}).ends_with("フォルダ~"));
   }
+  if (exists("中")) fs::permissions(folder() / "中", fs::perms::owner_all);
 }
 
 TEST_CASE_FIXTURE(FilesFixture, "a drive that is not ready leaves the old one") {
