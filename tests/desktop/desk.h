@@ -73,3 +73,12 @@ template <>
 struct doctest::StringMaker<zelko::Text> {
   static String convert(const zelko::Text& text) { return zelko::toUtf8(text).c_str(); }
 };
+
+template <>
+struct doctest::StringMaker<std::vector<zelko::Text>> {
+  static String convert(const std::vector<zelko::Text>& texts) {
+    zelko::Text all;
+    for (const auto& text : texts) all += u"[" + text + u"] ";
+    return zelko::toUtf8(all).c_str();
+  }
+};
