@@ -1,1 +1,7 @@
-# Benchmarks: one program a job, each prints a ratio measured in one run.
+# Benchmarks: one program a job, each prints a ratio measured in one run. Not part of the ordinary build.
+set(BENCHES bench_open bench_step bench_walk)
+foreach(bench IN LISTS BENCHES)
+  add_executable(${bench} EXCLUDE_FROM_ALL bench/${bench}.cpp bench/bench_table.cpp)
+  target_link_libraries(${bench} PRIVATE zelko_core)
+endforeach()
+add_custom_target(benches DEPENDS ${BENCHES})

@@ -11,5 +11,7 @@ namespace zelko {
 void registerCommand(TextView menuName, std::function<void()> command);
 // What serves the entry; empty where nobody does.
 const std::function<void()>& commandOf(TextView menuName);
+// Runs what serves the entry; a beep where nobody does.
+void runCommand(TextView menuName);
 
 }  // namespace zelko

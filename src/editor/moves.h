@@ -29,7 +29,12 @@ void stampId();
 void commitBox();
 // The common form of a jump: commitBox, end of numbering, cursor, loadCache, dispAll, showCell.
 void jumpTo(std::int32_t record, std::int16_t item);
+// The same without storing: the caller has run commitBox and looked at the record count since.
+void goTo(std::int32_t record, std::int16_t item);
 // Empties the input box without any sentence and clears the echo memory.
 void emptyInputBox();
+// The program's own text into the input box: it is echoed as an edit and never committed by itself. All floors fill the
+// box through this.
+void fillInputBox(TextView text);
 
 }  // namespace zelko

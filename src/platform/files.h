@@ -78,6 +78,8 @@ FileError renameFile(TextView from, TextView to);  // refuses a target that exis
 // be written whole is deleted; a copy of a read-only file can be written.
 FileError copyFile(TextView from, TextView to);
 // alreadyExists where something of that name stands, pathNotFound where the folder above is missing.
+// Gives `from` the name of `to` and its permissions, in one step: at every moment `to` is the old file or the new one.
+FileError replaceFile(TextView from, TextView to);
 FileError makeDirectory(TextView path);
 
 // The read-only attribute is the owner's write permission bit, read from the mode, not tried. What is missing is not

@@ -19,6 +19,9 @@ bool askOK(TextView text, TextView title);
 bool askYesNo(TextView text, TextView title);
 // The typed text; empty for cancel, which no caller can tell from an empty entry.
 Text talkAsk(TextView prompt, TextView title, TextView preset);
+// The closing form of a computation: says `result` when it opens and as often as it is asked to. The caller then shows
+// the result file.
+void showRepeat(TextView result);
 
 // The forms of this floor, for the list of all forms.
 void registerVoiceForms();

@@ -7,12 +7,14 @@
 
 namespace zelko {
 
+class frmDOE;
+
 // Lives as long as the work: opens frmDOE with what is being done, closes it at the end.
 class Progress {
  public:
   // `work` is said and shown; `total` 0 where the number of steps is not known.
   Progress(TextView work, std::int64_t total);
-  ~Progress();
+  ~Progress() noexcept(false);
   Progress(const Progress&) = delete;
   Progress& operator=(const Progress&) = delete;
 
@@ -22,6 +24,9 @@ class Progress {
 
  private:
   std::int64_t total_;
+  bool opened_;  // false for work inside work: the outer one closes the form
+  frmDOE& form_;
+  std::int64_t shownTenths_ = 0;
   bool stopped_ = false;
 };
 

@@ -37,6 +37,8 @@ bool gateOpens();
 
 // The composition of talkCtl for a sentence, without gate and without speaking.
 Text composed(const Form* form, TextView sentence);
+// How many sentences were composed since the start: a silent run leaves it at 0.
+extern std::int64_t composedSentences;
 
 void keepClip();
 void talkEnd();

@@ -1,0 +1,73 @@
+#include "app/commandline.h"
+
+namespace zelko {
+
+const char* const kUsage =
+    "usage: zelko [--no-reader] [TABLE]\n"
+    "       zelko --replay SCRIPT [--dir FOLDER] [TABLE]\n"
+    "\n"
+    "Opens TABLE (a data file NAME.txt with its item file KNAME.txt beside it), or the start screen.\n"
+    "\n"
+    "  --no-reader      does not speak by itself; another reader of the clipboard is asked for\n"
+    "  --replay SCRIPT  plays a script without a screen and prints the transcript (- reads standard input)\n"
+    "  --dir FOLDER     the program's folder during a replay; the current one otherwise\n"
+    "  --help           this text\n"
+    "  --version        the version\n"
+    "  --               what follows is a table, also when it begins with -\n";
+
+namespace {
+
+// Options that stand alone; false for any other argument.
+bool readFlag(const std::string& argument, CommandLine& line) {
+  if (argument == "--no-reader")
+    line.reader = false;
+  else if (argument == "--help" || argument == "-h")
+    line.action = CommandLine::Action::help;
+  else if (argument == "--version")
+    line.action = CommandLine::Action::version;
+  else
+    return false;
+  return true;
+}
+
+CommandLine complaint(CommandLine line, std::string text) {
+  line.action = CommandLine::Action::wrong;
+  line.complaint = std::move(text);
+  return line;
+}
+
+}  // namespace
+
+CommandLine readCommandLine(const std::vector<std::string>& arguments) {
+  CommandLine line;
+  bool options = true, tableSeen = false, replay = false;
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    const std::string& argument = arguments[i];
+    const bool optional = options && argument.size() > 1 && argument[0] == '-';
+    if (optional && argument == "--") {
+      options = false;
+    } else if (optional && (argument == "--replay" || argument == "--dir")) {
+      if (i + 1 == arguments.size()) return complaint(line, argument + " wants a name behind it");
+      if (argument == "--replay") {
+        replay = true;
+        line.script = arguments[++i];
+      } else {
+        line.folder = arguments[++i];
+      }
+    } else if (optional && readFlag(argument, line)) {
+      continue;
+    } else if (optional && argument[1] == '-') {
+      return complaint(line, "unknown option " + argument);
+    } else if (tableSeen) {
+      return complaint(line, "only one table can be named");
+    } else {
+      tableSeen = true;
+      line.table = argument;
+    }
+  }
+  if (replay && line.action == CommandLine::Action::run) line.action = CommandLine::Action::replay;
+  if (!replay && !line.folder.empty()) return complaint(line, "--dir goes with --replay");
+  return line;
+}
+
+}  // namespace zelko

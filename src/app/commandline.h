@@ -1,0 +1,24 @@
+// The command line of the program.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace zelko {
+
+struct CommandLine {
+  enum class Action { run, replay, help, version, wrong };
+  Action action = Action::run;
+  std::string script;     // of --replay; "-" is standard input
+  std::string folder;     // of --dir; empty: the current one
+  std::string table;      // empty: the start screen
+  bool reader = true;     // --no-reader
+  std::string complaint;  // what is wrong
+};
+
+// `arguments` without the program's name. "--" ends the options, so that a table may begin with "-".
+CommandLine readCommandLine(const std::vector<std::string>& arguments);
+
+extern const char* const kUsage;
+
+}  // namespace zelko

@@ -1,0 +1,64 @@
+// The program: on the desktop, or a script without a screen.
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <iostream>
+#include <memory>
+#include <system_error>
+
+#include "app/commandline.h"
+#include "app/desktop/start.h"
+#include "app/wiring.h"
+#include "platform/headless/replay.h"
+
+namespace {
+
+using namespace zelko;
+
+constexpr int kWrongUse = 2;
+
+int wrongUse(const std::string& complaint) {
+  std::cerr << "zelko: " << complaint << "\n" << kUsage;
+  return kWrongUse;
+}
+
+// The script's name counts from the folder of the start, not from the program's folder.
+std::string fromHere(const std::string& script) {
+  return script == "-" ? script : std::filesystem::absolute(script).string();
+}
+
+int replay(const CommandLine& line) {
+  ReplayOptions options;
+  options.script = fromHere(line.script);
+  if (!line.folder.empty()) {
+    std::error_code failed;
+    std::filesystem::current_path(line.folder, failed);
+    if (failed) return wrongUse("no such folder: " + line.folder);
+  }
+  return runReplay(options, [&] {
+    wireProgram();
+    startProgram(fromUtf8(line.table));
+  });
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const CommandLine line = readCommandLine({argv + 1, argv + argc});
+  switch (line.action) {
+    case CommandLine::Action::wrong:
+      return wrongUse(line.complaint);
+    case CommandLine::Action::help:
+      std::cout << kUsage;
+      return 0;
+    case CommandLine::Action::version:
+      std::cout << "zelko " << ZELKO_VERSION << "\n";
+      return 0;
+    case CommandLine::Action::replay:
+      return replay(line);
+    case CommandLine::Action::run:
+      break;
+  }
+  return startOnDesktop(argc, argv, line);
+}

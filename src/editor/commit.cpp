@@ -1,0 +1,59 @@
+#include "editor/commit.h"
+
+#include "editor/form1.h"
+#include "editor/moves.h"
+#include "platform/number.h"
+#include "store/cursor.h"
+#include "store/records.h"
+#include "voice/talk.h"
+
+namespace zelko {
+
+void commitCell() {
+  setCell(currentRow(), curItem, form<Form1>().txtinputbox.content());
+  dispAll(curItem);
+}
+
+void commitBox() {
+  MoveScope move;
+  bool holdsText = !trimmed(form<Form1>().txtinputbox.content()).empty();
+  if (holdsText) commitCell();
+  flushRec();
+  if (holdsText) emptyInputBox();
+}
+
+void setInputSilently(TextView text) {
+  if (Form1* main = loadedForm<Form1>()) {
+    Silence silence;
+    Form1::Filling filling(*main);
+    main->txtinputbox.setText(text);
+  }
+  lastInput = text;
+  lastInputLen = static_cast<int>(text.size());
+}
+
+void emptyInputBox() { setInputSilently(u""); }
+
+void fillInputBox(TextView text) {
+  Form1& main = form<Form1>();
+  Form1::Filling filling(main);
+  main.txtinputbox.setText(text);
+}
+
+void focusInputBox() { form<Form1>().txtinputbox.setFocus(); }
+
+void caretEnd(TextView) {
+  auto* box = dynamic_cast<TextBox*>(screen().activeControl());
+  if (!box) return;
+  caretGuard = true;
+  box->moveCaretToEnd();
+  caretGuard = false;
+}
+
+void stampId() {
+  Text number = trimmed(str(autoIdValue));
+  setCell(currentRow(), 0, number);
+  if (curItem == 0) idText = number;
+}
+
+}  // namespace zelko

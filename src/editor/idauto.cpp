@@ -1,0 +1,34 @@
+#include "editor/form1.h"
+#include "editor/moves.h"
+#include "editor/state.h"
+#include "editor/utilities.h"
+#include "platform/number.h"
+#include "platform/width.h"
+#include "store/cursor.h"
+#include "store/table.h"
+#include "voice/dialogs.h"
+
+namespace zelko {
+
+void idAuto() {
+  if (itemCount == 0) {
+    showOK(u"項目区切り数０の場合は、この機能は使えません", u"注意");
+    return;
+  }
+  if (autoIdOn == 0) {
+    autoIdOn = 1;
+    const Text answer = talkAsk(u"ＩＤ項目は自動更新されます。初期値を入れて下さい。", u"ID番号の初期値", u"1");
+    if (answer.empty()) {
+      autoIdOn = 0;
+      return;
+    }
+    autoIdValue = static_cast<float>(val(toHalfWidth(answer)));
+    stampId();
+  } else {
+    autoIdOn = 0;
+  }
+  showCell(static_cast<float>(curRec), curItem, {}, {});
+  dispAll(curItem);
+}
+
+}  // namespace zelko

@@ -1,0 +1,15 @@
+// Ranges as the input box sees them: beginning one by key, and the keys on a finished one.
+#pragma once
+
+#include "platform/keys.h"
+
+namespace zelko {
+
+// 1 rectangle, 2 whole records, 3 whole items. Refused with a beep on the new line, with a notice in the card view.
+void startRange(int kind);
+// A key while a finished range is at hand; false when it has no meaning there.
+bool finishedRangeKey(const KeyEvent& key);
+// Mask hidden, range variables 0, the cell shown again with an empty box that has the focus.
+void dropRangeAndShow();
+
+}  // namespace zelko

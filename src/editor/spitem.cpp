@@ -1,0 +1,63 @@
+#include "editor/spitem.h"
+
+#include "editor/commands.h"
+#include "editor/moves.h"
+#include "platform/host.h"
+#include "platform/number.h"
+#include "platform/width.h"
+#include "store/cursor.h"
+#include "store/records.h"
+#include "voice/dialogs.h"
+#include "voice/narration.h"
+#include "voice/talk.h"
+
+namespace zelko {
+
+frmSPITEM::frmSPITEM() : Form(kName, u"特定項目の表示") {
+  onUnload = [] { spItem = kNoItem; };
+  Narration(*this).explain([this] { return markStop + Label1.caption(); });
+}
+
+Text spItemCaption() {
+  if (spItem == kNoItem) return {};
+  return decimal(spItem) + u":" + trimmed(itemName[spItem]);
+}
+
+Text spItemCell() { return spItem == kNoItem ? Text() : trimmed(cellOfRow(currentRow(), spItem)); }
+
+void refreshSpItem() {
+  if (spItem == kNoItem) return;
+  frmSPITEM& view = form<frmSPITEM>();
+  view.setCaption(spItemCaption());
+  view.Label1.setCaption(spItemCell());
+}
+
+void switchSpItem() {
+  if (spItem != kNoItem) {
+    spItem = kNoItem;
+    unload<frmSPITEM>();
+  } else {
+    const Text answer = talkAsk(
+        u"指定項目ﾃﾞｰﾀを｡常時表示します｡ﾃﾞｰﾀ入力時参照のため"
+        u"\r\n項目番号を入力してください｡もう一度このﾒﾆｭｰを選ぶと解除されます｡",
+        u"常時ﾃﾞｰﾀ表示項目の設定", decimal(curItem));
+    if (trimmed(answer).empty()) return;
+    const double wanted = val(toHalfWidth(answer));
+    if (wanted < 0 || wanted > itemCount) {
+      host().beep();
+      return;
+    }
+    spItem = static_cast<std::uint16_t>(toInt32(wanted));
+    refreshSpItem();
+    form<frmSPITEM>().showWithoutFocus();
+  }
+  showCell(static_cast<float>(curRec), curItem, {}, {});
+  dispAll(curItem);
+}
+
+void registerSpItem() {
+  registerForm<frmSPITEM>();
+  registerCommand(u"mnuSPITEM", switchSpItem);
+}
+
+}  // namespace zelko

@@ -1,0 +1,75 @@
+#include "files/diskopening.h"
+
+#include "editor/entryitems.h"
+#include "editor/form1.h"
+#include "editor/spitem.h"
+#include "editor/state.h"
+#include "editor/view.h"
+#include "files/pickerwords.h"
+#include "platform/files.h"
+#include "platform/host.h"
+#include "store/cursor.h"
+#include "store/itemfile.h"
+#include "store/notice.h"
+#include "store/records.h"
+#include "voice/dialogs.h"
+#include "voice/talk.h"
+
+namespace zelko {
+
+namespace {
+
+constexpr int kDataFile = 1;
+
+// What belongs to the items and records of one table alone.
+void forgetOldTable() {
+  dropRange();
+  autoIdOn = 0;
+  allItemsOn = 1;
+  form<Form1>().Label11.setCaption(entryItemsCaption());
+  unload<frmSPITEM>();
+  spItem = kNoItem;
+}
+
+}  // namespace
+
+void storeEditedTable() {
+  if (docPath.empty() || !isOpen(kDataFile)) return;
+  form<Form1>().storeNames();
+  flushRec();
+}
+
+void keepEditedTableOpen() {
+  if (docPath.empty() || isOpen(kDataFile) || reopenData()) return;
+  tellFailure(u"編集中のﾌｧｲﾙが開けません。もう一度確認してください", u"編集中のﾌｧｲﾙ");
+}
+
+bool openInPlace(TextView dataFile) {
+  storeEditedTable();
+  Text error;
+  openTable(dataFile, error);
+  if (error.empty()) {
+    forgetOldTable();
+    return true;
+  }
+  keepEditedTableOpen();
+  showOK(u"Zelkoﾌｧｲﾙではない可能性があります。", spokenName(dataFile) + u"異常");
+  return false;
+}
+
+void closeAndEnter(Form& picker) {
+  {
+    // The main form gets the focus with the boxes of the old table: what it says of them would be wrong.
+    const Silence silence;
+    screen().unload(picker);
+  }
+  enterEditor();
+}
+
+void endFromPicker() {
+  if (talkMode != 0) waitSec(talkGap);
+  talkEnd();
+  throw ProgramEnd{};
+}
+
+}  // namespace zelko

@@ -1,0 +1,34 @@
+#include "files/diskreference.h"
+
+#include "editor/commands.h"
+#include "files/deletetable.h"
+#include "files/diskopening.h"
+#include "store/itemfile.h"
+#include "store/notice.h"
+#include "store/table.h"
+
+namespace zelko {
+
+void refFileacs(TextView dataFile) {
+  const Text inEdit = docPath.empty() ? Text() : joinName(docDrive, docPath);
+  if (!inEdit.empty() && isSameFile(dataFile, inEdit)) {
+    // A link leads to it under another name, which the user should know.
+    tellFailure(u"編集中のﾌｧｲﾙと同じです｡", inEdit == dataFile ? u"確認" : u"編集中のﾌｧｲﾙ");
+    return;
+  }
+  Text error;
+  refjinput(dataFile, error);
+  if (error.empty()) runCommand(u"REF");
+}
+
+void refjinput(TextView dataFile, Text& error) {
+  Text drive, path;
+  splitName(dataFile, drive, path);
+  readKFileOther(path, drive, error);
+  keepEditedTableOpen();
+  if (!error.empty()) return;
+  otherDrive = drive;
+  otherPath = path;
+}
+
+}  // namespace zelko

@@ -1,0 +1,16 @@
+// From a sentence of the program to what an engine that knows only kana can say.
+#pragma once
+
+#include "platform/text.h"
+#include "speech/dictionary.h"
+
+namespace zelko {
+
+// Katakana, blanks between words, "、" for a pause, "。" and "？" at the end of a sentence: nothing else, apart from
+// kanji where no dictionary is installed. Kanji are read by the dictionary; numbers with their counters, Latin words
+// and signs by rules. Half-width kana is the program's own spelling of sounds and stays as written. A sentence of
+// signs alone has them named, so that no character is mute; blanks alone give an empty text. Takes any units, lone
+// surrogates and control characters included.
+Text kanaForSpeech(TextView sentence, Dictionary& dictionary);
+
+}  // namespace zelko

@@ -1,0 +1,12 @@
+// Words in Latin letters, as Japanese ears know them.
+#pragma once
+
+#include "platform/text.h"
+
+namespace zelko {
+
+// A run of half-width letters in katakana: the words of the program and of computers by a small list, Japanese
+// names in Roman spelling by their syllables, everything else letter by letter.
+Text latinKana(TextView word);
+
+}  // namespace zelko

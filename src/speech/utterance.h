@@ -1,0 +1,24 @@
+// One thing to say: the words, and what the tags among them ask of the voice.
+#pragma once
+
+#include <optional>
+
+#include "platform/text.h"
+
+namespace zelko {
+
+struct Utterance {
+  Text words;                // without tags
+  std::optional<int> speed;  // 0 to 9, of the tag "＜速さ５＞"; the last one holds
+  std::optional<int> rate;   // -100 to 100, as the speech service counts
+  std::optional<int> pitch;  // -100 to 100
+};
+
+// A sentence of the clipboard channel. A speed sets the rate evenly, 0 the slowest; 4 and 5 are the middle.
+Utterance clipboardUtterance(TextView sentence);
+
+// A sentence of the talking character, with its tags "\Spd=1500\" and "\PIT=0\". Without a tag the voice is as the
+// user's settings have it.
+Utterance agentUtterance(TextView sentence);
+
+}  // namespace zelko

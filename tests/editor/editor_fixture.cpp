@@ -1,0 +1,52 @@
+#include "editor/editor_fixture.h"
+
+#include "editor/registereditor.h"
+#include "editor/state.h"
+#include "editor/view.h"
+#include "store/cursor.h"
+#include "store/table.h"
+#include "voice/talk.h"
+
+namespace zelko::test {
+namespace {
+
+std::string scriptLine(const std::string& action) {
+  if (action.starts_with("focus ")) return "focus Form1." + action.substr(6);
+  bool isVerb = action.starts_with("type ") || action.starts_with("commit ") || action.starts_with("menu ");
+  return isVerb ? action : "key " + action;
+}
+
+}  // namespace
+
+EditorFixture::EditorFixture() {
+  resetTable();
+  resetCursor();
+  resetEditor();
+  resetTalk();
+  appDir = fromUtf8(folder().string()) + u"/";
+  registerEditor();
+}
+
+void EditorFixture::open(const std::vector<ItemOfTable>& items, const Rows& rows, int level) {
+  Text name = makeTable(u"t", items, rows);
+  talkMode = static_cast<std::int16_t>(level);
+  run([name] { REQUIRE(openAndEnter(name)); });
+  heard();
+}
+
+Heard EditorFixture::play(const std::vector<std::string>& actions) {
+  for (const std::string& action : actions) Fixture::play(scriptLine(action));
+  return heard();
+}
+
+Heard EditorFixture::heard() {
+  Heard lines = events();
+  std::erase_if(lines, [](const std::string& line) { return line != "beep" && !line.starts_with("say "); });
+  return lines;
+}
+
+Form1& mainForm() { return form<Form1>(); }
+
+std::string utf8(TextView text) { return toUtf8(text); }
+
+}  // namespace zelko::test

@@ -1,0 +1,48 @@
+// A user at the editor: a table made in the test, keys pressed, every sentence heard.
+#pragma once
+
+#include <doctest/doctest.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "editor/form1.h"
+#include "fixture.h"
+
+namespace zelko::test {
+
+using Heard = std::vector<std::string>;  // "say …" and "beep"
+using Rows = std::vector<std::vector<Text>>;
+
+class EditorFixture : public Fixture {
+ public:
+  EditorFixture();
+
+  // Makes the table "t" in the test's folder and enters the editor at the given speech level. What is heard meanwhile
+  // is forgotten.
+  void open(const std::vector<ItemOfTable>& items, const Rows& rows, int level = 2);
+  // Key names, "type …", "commit …", "menu …" and "focus" with a control of the main form, a second before each. Gives
+  // what was heard, in its order.
+  Heard play(const std::vector<std::string>& actions);
+  Heard heard();
+
+  std::string record(int number) const { return toUtf8(Fixture::record(number)); }
+  std::string path(std::string_view name) const { return (folder() / name).string(); }
+  std::string file(std::string_view name) const { return readBytes(folder() / name); }
+  static constexpr std::string_view kTable = "t.txt";
+};
+
+Form1& mainForm();
+std::string utf8(TextView text);
+
+}  // namespace zelko::test
+
+template <>
+struct doctest::StringMaker<zelko::test::Heard> {
+  static String convert(const zelko::test::Heard& lines) {
+    std::string all;
+    for (const std::string& line : lines) all += "\n    " + line;
+    return all.c_str();
+  }
+};
