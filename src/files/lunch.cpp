@@ -23,7 +23,8 @@ namespace zelko {
 namespace {
 
 constexpr Colour kWhite = 0xFFFFFF;
-constexpr int kTick = 1000;  // milliseconds
+constexpr int kTick = 1000;       // milliseconds
+constexpr int kTileTwips = 2640;  // room for 22 characters, so that the tiles stand in columns
 
 constexpr const char16_t* kOpeningText =
     u"Zelkoは､1行254文字を任意項目に区切り､項目単位にﾃｷｽﾄﾃﾞｰﾀを管理､編集します｡"
@@ -111,7 +112,8 @@ void FrmLunch::buildTiles() {
 void FrmLunch::tile(PictureBox& picture, Label& label, int index) {
   picture.tabStop = true;
   picture.labelledBy = &label;
-  label.place = Place::sameRow;
+  picture.place = index % 2 == 1 ? Place::newRow : Place::sameRow;
+  label.setWidth(kTileTwips);
   picture.draw({PictureBox::Stroke::box, 60, 60, 540, 420, 0, {}});
   for (int line = 1; line <= index; ++line)
     picture.draw({PictureBox::Stroke::line,
@@ -147,6 +149,7 @@ void FrmLunch::writeHints() {
     hint->readOnly = true;
     hint->tabStop = false;
   }
+  Text2.place = Text3.place = Place::sameRow;
 }
 
 void FrmLunch::narrate() {
