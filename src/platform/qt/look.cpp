@@ -5,6 +5,7 @@
 #include <QFont>
 #include <QPainter>
 #include <QProxyStyle>
+#include <QStyleOption>
 #include <algorithm>
 
 namespace zelko {
@@ -32,6 +33,26 @@ class Style : public QProxyStyle {
         metric == PM_ExclusiveIndicatorWidth)
       return std::max(QProxyStyle::pixelMetric(metric, option, widget), height * 3 / 4);
     return QProxyStyle::pixelMetric(metric, option, widget);
+  }
+  // The lines round boxes, buttons and marks are as plain as the text.
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    const bool framed = element == PE_FrameLineEdit || element == PE_Frame || element == PE_PanelButtonCommand ||
+                        element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton;
+    if (!framed || option->rect.isEmpty()) return;
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    const bool enabled = option->state.testFlag(State_Enabled);
+    painter->setPen(
+        QPen(option->palette.color(enabled ? QPalette::Active : QPalette::Disabled, QPalette::WindowText), 1.5));
+    painter->setBrush(Qt::NoBrush);
+    const QRectF line = QRectF(option->rect).adjusted(1, 1, -1, -1);
+    if (element == PE_IndicatorRadioButton)
+      painter->drawEllipse(line);
+    else
+      painter->drawRoundedRect(line, 2, 2);
+    painter->restore();
   }
   // Captions that mix Japanese and Latin fonts are a little wider than they are measured.
   QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,

@@ -88,13 +88,12 @@ void PageLayout::breakRow(const std::vector<Cell>& row, int width, std::vector<L
   for (const Cell& cell : row) {
     if (!shown(cell.item)) continue;
     const bool front = shown(cell.front), above = front && standsAbove(*cell.front);
-    const bool column = front && !above && begins;
-    const int before = !front || above ? 0 : (column ? frontColumn() : naturalWidth(*cell.front)) + kGap;
+    const int own = front && !above ? naturalWidth(*cell.front) + kGap : 0;
     const int wide = naturalWidth(*cell.item);
-    if (begins || above || lines.back().used + kGap + before + wide > width) {
-      lines.emplace_back();
-      begins = false;
-    }
+    const bool next = begins || above || lines.back().used + kGap + own + wide > width;
+    const int before = next && own > 0 ? std::max(own, frontColumn() + kGap) : own;
+    if (next) lines.emplace_back();
+    begins = false;
     if (above) {
       add(lines.back(), cell.front, naturalWidth(*cell.front), true);
       lines.emplace_back();

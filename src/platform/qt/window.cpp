@@ -99,7 +99,7 @@ void FormWindow::reveal(bool modal, FormWindow* above) {
   menuChanged();
   setWindowModality(modal ? Qt::ApplicationModal : Qt::NonModal);
   setAttribute(Qt::WA_ShowWithoutActivating, above != nullptr);
-  resize(fittingSize());
+  takeSize(fittingSize());
   if (above)
     follow(*above);
   else if (menu_)
@@ -128,13 +128,13 @@ void FormWindow::placeBelow() {
   const QRect upper = above_->frameGeometry();
   const QSize wanted = fittingSize();
   move(upper.left(), upper.bottom() + 1);
-  resize(std::clamp(wanted.width(), std::min(upper.width(), room.width()), this->room().width()),
-         std::clamp(wanted.height(), least, std::max(least, room.bottom() - upper.bottom() - title - kEdge)));
+  takeSize({std::clamp(wanted.width(), std::min(upper.width(), room.width()), this->room().width()),
+            std::clamp(wanted.height(), least, std::max(least, room.bottom() - upper.bottom() - title - kEdge))});
 }
 
 void FormWindow::keepWithin(int height) {
   tallest_ = height;
-  if (this->height() > height) resize(width(), height);
+  if (this->height() > height) takeSize({width(), height});
 }
 
 bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
@@ -165,13 +165,22 @@ void FormWindow::push(Control& control, Property property) {
     growSoon();
 }
 
+// A scroll bar that stands narrows the page, and so keeps itself needed: it has to go to be asked for again.
+void FormWindow::takeSize(QSize size) {
+  scroll_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  resize(size);
+  layout()->activate();
+  scroll_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+}
+
 // A longer text or another control may need more room than the window has.
 void FormWindow::growSoon() {
   if (growing_ || above_ || !isVisible()) return;
   growing_ = true;
   QTimer::singleShot(0, this, [this] {
     growing_ = false;
-    if (form_ && isVisible() && !isMaximized()) resize(size().expandedTo(fittingSize()));
+    if (!form_ || !isVisible() || isMaximized()) return;
+    takeSize(size().expandedTo(fittingSize()));
   });
 }
 

@@ -48,6 +48,7 @@ class FormWindow : public QWidget {
   void build();
   QSize room() const;
   QSize fittingSize() const;
+  void takeSize(QSize size);
   void growSoon();
   void follow(FormWindow& above);
   void placeBelow();
