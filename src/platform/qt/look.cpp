@@ -23,6 +23,8 @@ class Style : public QProxyStyle {
     // Alt alone would take the focus away to the menu bar, unheard.
     if (hint == SH_MenuBar_AltKeyNavigation) return 0;
     if (hint == SH_UnderlineShortcut) return 1;
+    // A menu taller than the screen scrolls; a second column would be cut off, and Right would lead into it.
+    if (hint == SH_Menu_Scrollable) return 1;
     return QProxyStyle::styleHint(hint, option, widget, data);
   }
   int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
@@ -63,6 +65,8 @@ class Style : public QProxyStyle {
   }
 };
 
+const QStringList kEvenlySpaced = {"IPAGothic", "Noto Sans Mono CJK JP", "monospace"};
+
 void substituteFonts() {
   const auto gothic = QStringList{"IPAGothic", "Noto Sans Mono CJK JP"};
   const auto mincho = QStringList{"IPAMincho", "Noto Serif CJK JP"};
@@ -80,6 +84,11 @@ void dress(QApplication& application) {
   QFont font = QApplication::font();
   font.setPointSizeF(std::max(kLeastPoints, font.pointSizeF()));
   QApplication::setFont(font);
+}
+
+QFont evenlySpaced(QFont font) {
+  font.setFamilies(kEvenlySpaced);
+  return font;
 }
 
 FocusFrame::FocusFrame(QWidget& page) : QWidget(&page) {
@@ -119,7 +128,14 @@ bool FocusFrame::eventFilter(QObject* watched, QEvent* event) {
   return QWidget::eventFilter(watched, event);
 }
 
+bool FocusFrame::event(QEvent* event) {
+  if (event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate) update();
+  return QWidget::event(event);
+}
+
+// The keys go to one window only: the others show no focus.
 void FocusFrame::paintEvent(QPaintEvent*) {
+  if (!window()->isActiveWindow()) return;
   QPainter painter(this);
   const QColor text = palette().color(QPalette::WindowText);
   // Blue is seen on white, and yellow on black.

@@ -8,6 +8,7 @@
 #include "platform/form.h"
 #include "platform/lists.h"
 #include "platform/qt/guard.h"
+#include "platform/qt/look.h"
 #include "platform/qt/qstring.h"
 #include "platform/qt/view.h"
 
@@ -79,6 +80,7 @@ void clicked(ListBox& list, int row) {
 void makeListView(View& view, QWidget* parent) {
   auto& list = static_cast<ListBox&>(view.control);
   auto* shown = new TallList(parent);
+  shown->setFont(evenlySpaced(shown->font()));
   auto* entries = new Entries(list, shown);
   shown->setModel(entries);
   shown->setUniformItemSizes(true);

@@ -11,6 +11,7 @@
 #include "platform/controls.h"
 #include "platform/form.h"
 #include "platform/qt/guard.h"
+#include "platform/qt/look.h"
 #include "platform/qt/qstring.h"
 #include "platform/qt/view.h"
 
@@ -116,6 +117,12 @@ bool isAlone(const TextBox& box) {
   });
 }
 
+}  // namespace
+
+bool isLongText(const TextBox& box) { return box.multiLine() && !isHint(box) && isAlone(box); }
+
+namespace {
+
 // As tall as the lines it is asked to show, whatever the font; a hint as tall as its text.
 class Lines : public QPlainTextEdit {
  public:
@@ -161,6 +168,7 @@ void makeLines(View& view, TextBox& box, QWidget* parent) {
   auto* edit = new Lines(box, parent);
   edit->setContextMenuPolicy(Qt::NoContextMenu);
   edit->setFocusPolicy(Qt::ClickFocus);
+  if (isLongText(box)) edit->setFont(evenlySpaced(edit->font()));
   view.widget = edit;
   view.push = [edit, &box](Property property) {
     if (property == Property::text || property == Property::selection) pushLines(*edit, box);
@@ -171,8 +179,6 @@ void makeLines(View& view, TextBox& box, QWidget* parent) {
 }
 
 }  // namespace
-
-bool isLongText(const TextBox& box) { return box.multiLine() && !isHint(box) && isAlone(box); }
 
 void makeTextView(View& view, QWidget* parent) {
   auto& box = static_cast<TextBox&>(view.control);
