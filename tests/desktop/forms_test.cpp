@@ -1,14 +1,18 @@
 // Every form of the program, as it is seen in small and in large type.
 #include <doctest/doctest.h>
 
-#include <QAbstractScrollArea>
+#include <QAccessible>
 #include <QApplication>
 #include <QLabel>
 #include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QScrollArea>
+#include <QScrollBar>
 
 #include "app/wiring.h"
 #include "desktop/desk.h"
+#include "platform/qt/accessibility.h"
+#include "platform/qt/desktop.h"
 #include "voice/talk.h"
 
 namespace zelko {
@@ -27,7 +31,16 @@ QRect onPage(const QWidget& widget, const QWidget& page) { return {widget.mapTo(
 bool textFits(const QWidget& widget) {
   if (const auto* label = qobject_cast<const QLabel*>(&widget))
     return label->heightForWidth(label->width()) <= label->height();
+  // A hint is nothing that one scrolls.
+  const auto* text = qobject_cast<const QPlainTextEdit*>(&widget);
+  if (text && text->frameShape() == QFrame::NoFrame && text->verticalScrollBar()->maximum() > 0) return false;
   return widget.height() >= widget.minimumSizeHint().height() && widget.width() >= widget.minimumSizeHint().width();
+}
+
+// What a control is, for a reader of the screen: never just a place on the window.
+bool hasRole(QWidget& widget) {
+  const QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(&widget);
+  return interface && interface->role() != QAccessible::Client && interface->role() != QAccessible::NoRole;
 }
 
 void checkPlaces(const Form& form, const FormWindow& window) {
@@ -43,7 +56,10 @@ void checkPlaces(const Form& form, const FormWindow& window) {
     const QRect place = onPage(*view->widget, page);
     CHECK(page.rect().contains(place));
     CHECK(textFits(*view->widget));
-    if (control->takesFocus()) CHECK_FALSE(view->widget->accessibleName().isEmpty());
+    if (control->takesFocus()) {
+      CHECK_FALSE(view->widget->accessibleName().isEmpty());
+      CHECK(hasRole(*view->widget));
+    }
     if (control->kind() == ControlKind::frame) continue;  // its options lie in it
     for (const auto& [other, there] : placed) {
       CAPTURE(toUtf8(other->fullName()));
@@ -115,6 +131,16 @@ TEST_CASE("in every form nothing overlaps or is cut off, in small or large type,
     }
   }
   QApplication::setFont(usual);
+}
+
+TEST_CASE("while the program speaks itself, a reader of the screen is told of windows only") {
+  bool speaks = true;
+  desktopHooks().speaks = [&] { return speaks; };
+  CHECK_FALSE(isToldToScreenReader(QAccessible::Focus));
+  CHECK(isToldToScreenReader(QAccessible::StateChanged));
+  speaks = false;
+  CHECK(isToldToScreenReader(QAccessible::Focus));
+  desktopHooks().speaks = {};
 }
 
 }  // namespace zelko

@@ -180,7 +180,7 @@ void MenuBar::openFrom(QMenuBar& bar, QAction& action) {
 
 void MenuBar::detach() {
   for (const auto& [entry, action] : actions_) {
-    action->disconnect();
+    action->disconnect(action);
     if (action->menu()) action->menu()->close();
   }
   actions_.clear();

@@ -42,6 +42,9 @@ double pixelsPerTwip(const QWidget& widget);
 // A text box that its form is made for: it shows a long text.
 bool isLongText(const TextBox& box);
 
+// A picture that stands for something to choose.
+bool isTile(const QWidget& widget);
+
 // Makers of the kinds; they set widget, push, report and detach.
 void makeTextView(View& view, QWidget* parent);  // text box, rich text box
 void makeListView(View& view, QWidget* parent);  // list, drive, folder and file box

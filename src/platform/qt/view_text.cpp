@@ -152,7 +152,9 @@ class Lines : public QPlainTextEdit {
   int heightForWidth(int width) const override {
     if (!hint_) return -1;
     const QRect room(0, 0, width - 2 * edge(), 1 << 20);
-    return fontMetrics().boundingRect(room, Qt::TextWrapAnywhere, toPlainText()).height() + 2 * edge();
+    const int measured = fontMetrics().boundingRect(room, Qt::TextWrapAnywhere, toPlainText()).height();
+    // Lines that mix Japanese and Latin fonts are a little higher than they are measured.
+    return measured + measured / 8 + edge();
   }
   QSize minimumSizeHint() const override { return {fontMetrics().horizontalAdvance(u'0') * 10, heightOf(1)}; }
 

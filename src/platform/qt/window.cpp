@@ -90,7 +90,7 @@ QSize FormWindow::fittingSize() const {
   const int height = rows_->preferredHeight(width) + (bar ? bar->sizeHint().height() : 0);
   if (height <= room.height()) return {width, height};
   // What doesn't fit is scrolled to, beside the bar that scrolls.
-  return QSize(width + scroll_->verticalScrollBar()->sizeHint().width(), room.height()).boundedTo(room);
+  return QSize(width + scroll_->verticalScrollBar()->sizeHint().width() + kEdge, room.height()).boundedTo(room);
 }
 
 void FormWindow::reveal(bool modal, FormWindow* above) {
@@ -196,7 +196,8 @@ void FormWindow::forget() {
   hide();
   if (menu_) menu_->detach();
   for (const auto& view : views_) {
-    if (view->widget) view->widget->disconnect();
+    // Only what we connected: Qt itself listens for the end of a widget, for the reader of the screen.
+    if (view->widget) view->widget->disconnect(view->widget);
     if (view->detach) view->detach();
   }
   views_.clear();
