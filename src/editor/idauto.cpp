@@ -7,6 +7,7 @@
 #include "store/cursor.h"
 #include "store/table.h"
 #include "voice/dialogs.h"
+#include "voice/talk.h"
 
 namespace zelko {
 
@@ -29,6 +30,11 @@ void idAuto() {
   }
   showCell(static_cast<float>(curRec), curItem, {}, {});
   dispAll(curItem);
+  const Form1& main = form<Form1>();
+  if (autoIdOn == 1)
+    talkBehindDialog(main.Label4.caption() + main.Label13.caption());
+  else
+    talkGated(u"ＩＤ項目の自動更新を解除しました。");
 }
 
 }  // namespace zelko

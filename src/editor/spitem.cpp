@@ -33,7 +33,8 @@ void refreshSpItem() {
 }
 
 void switchSpItem() {
-  if (spItem != kNoItem) {
+  const bool wasSet = spItem != kNoItem;
+  if (wasSet) {
     spItem = kNoItem;
     unload<frmSPITEM>();
   } else {
@@ -53,6 +54,10 @@ void switchSpItem() {
   }
   showCell(static_cast<float>(curRec), curItem, {}, {});
   dispAll(curItem);
+  if (wasSet)
+    talkGated(u"常時表示項目はありません" + markStop);
+  else
+    talkBehindDialog(spItemCaption() + markStop + spItemCell());
 }
 
 void registerSpItem() {
