@@ -188,12 +188,14 @@ bool FrmLunch::openFromCommandLine(TextView commandLine) {
 
 // The opening text is the first thing to be heard, not the control that has the focus.
 void FrmLunch::FrmLunch_Activate() {
+  if (ticks_ > 1) return;  // back from another form: the control says where the user is
   Silence silence;
   if (Control* control = activeControl()) control->setFocus();
   Timer1.setInterval(kTick);
 }
 
 void FrmLunch::FrmLunch_Timer1_Timer() {
+  if (screen().activeForm() != this) return;  // a help text or a message has come in between
   if (++ticks_ > 1) Timer1.setInterval(0);
   if (ticks_ > 2 || talkMode == 0) return;
   talkS(*this, caption() + markStop + Text(kOpeningText));
@@ -214,10 +216,9 @@ void FrmLunch::FrmLunch_KeyDown(KeyEvent& key) {
 }
 
 void FrmLunch::switchOn(std::int16_t level) {
-  {
-    Silence silence;
-    Check2.setValue(1);
-  }
+  switching_ = true;
+  Check2.setValue(1);
+  switching_ = false;
   talkMode = level;
   showSpeechState();
   talkS(*this, level == 1 ? u"データのみ読み上げ" : u"行、項目番号付き読み上げ");
@@ -255,9 +256,10 @@ void FrmLunch::FrmLunch_Command3_Click() {
 }
 
 void FrmLunch::FrmLunch_Check2_Click() {
+  if (switching_) return;
   talkMode = Check2.value() == 1 ? 2 : 0;
   showSpeechState();
-  if (gateOpens()) talkNow(composed(this, u"ﾁｪｯｸﾎﾞｯｸｽ"));
+  talkGated(u"チェック" + markPause + Check2.caption() + u"ﾁｪｯｸﾎﾞｯｸｽ");
 }
 
 void FrmLunch::FrmLunch_Check2_LostFocus() {
