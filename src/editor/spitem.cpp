@@ -1,6 +1,7 @@
 #include "editor/spitem.h"
 
 #include "editor/commands.h"
+#include "editor/form1.h"
 #include "editor/moves.h"
 #include "platform/host.h"
 #include "platform/number.h"
@@ -15,6 +16,11 @@ namespace zelko {
 
 frmSPITEM::frmSPITEM() : Form(kName, u"特定項目の表示") {
   onUnload = [] { spItem = kNoItem; };
+  onKeyDown = [](KeyEvent& key) {
+    if (!key.is(key::Esc, shift::None)) return;
+    key.swallow();
+    form<Form1>().activate();
+  };
   Narration(*this).explain([this] { return markStop + Label1.caption(); });
 }
 
