@@ -153,6 +153,13 @@ void record(const Case& played, const fs::path& folder, const std::string& trans
   }
 }
 
+// The transcript with FOLDER in place of the folder that this run was played in.
+std::string withoutPlace(std::string transcript, const std::string& place) {
+  for (std::size_t at = 0; (at = transcript.find(place, at)) != std::string::npos; at += 6)
+    transcript.replace(at, place.size(), "FOLDER");
+  return transcript;
+}
+
 bool play(const Case& played, bool recording) {
   std::string pattern = (fs::temp_directory_path() / "zelko-case-XXXXXX").string();
   if (!::mkdtemp(pattern.data())) return false;
@@ -160,7 +167,7 @@ bool play(const Case& played, bool recording) {
   fs::create_directory(folder);
   if (fs::exists(played.folder / "before")) fs::copy(played.folder / "before", folder, fs::copy_options::recursive);
   int status = runProgram(played, folder, transcript);
-  std::string heard = readBytes(transcript);
+  std::string heard = withoutPlace(readBytes(transcript), folder.string());
   bool right = status == played.status;
   if (!right) std::cout << "exit status " << status << ", wanted " << played.status << "\n";
   if (recording) {
