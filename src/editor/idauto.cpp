@@ -1,7 +1,11 @@
+#include <cmath>
+#include <limits>
+
 #include "editor/form1.h"
 #include "editor/moves.h"
 #include "editor/state.h"
 #include "editor/utilities.h"
+#include "platform/host.h"
 #include "platform/number.h"
 #include "platform/width.h"
 #include "store/cursor.h"
@@ -19,11 +23,14 @@ void idAuto() {
   if (autoIdOn == 0) {
     autoIdOn = 1;
     const Text answer = talkAsk(u"ＩＤ項目は自動更新されます。初期値を入れて下さい。", u"ID番号の初期値", u"1");
-    if (answer.empty()) {
+    const double first = answer.empty() ? 0 : val(toHalfWidth(answer));
+    const bool holdable = std::fabs(first) <= std::numeric_limits<float>::max();
+    if (answer.empty() || !holdable) {
       autoIdOn = 0;
+      if (!holdable) host().beep();
       return;
     }
-    autoIdValue = static_cast<float>(val(toHalfWidth(answer)));
+    autoIdValue = static_cast<float>(first);
     stampId();
   } else {
     autoIdOn = 0;
