@@ -1,7 +1,5 @@
 #include "editor/realign.h"
 
-#include <algorithm>
-
 #include "editor/moves.h"
 #include "store/cursor.h"
 #include "store/notice.h"
@@ -25,10 +23,7 @@ void realignItem(std::int16_t item, TextView letter) {
   const auto i = static_cast<std::size_t>(item);
   std::vector<ItemLine> items = itemsOnDisk();
   items[i].alignment = letter;
-  const int start = std::min(itemStart[i] - 1, kDataBytes);
-  const int width = std::min<int>(itemWidth[i], kDataBytes - start);
-  const CellMove cell{start, width, start, width, letter == u"R" ? Justify::right : Justify::left};
-  const RewritePlan plan{{{1, recCount()}}, {cell}};
+  const RewritePlan plan{{{1, recCount()}}, {realigned(items, item, letter)}};
   const RewriteEnd end = rewriteTable(plan, &items, [](std::int64_t) { return true; });
   if (end == RewriteEnd::failed) tellWriteError();
   loadCache(curRec);

@@ -8,6 +8,7 @@
 #include "editor/widthform.h"
 #include "platform/host.h"
 #include "platform/number.h"
+#include "platform/width.h"
 #include "store/cursor.h"
 #include "store/itemfile.h"
 #include "store/records.h"

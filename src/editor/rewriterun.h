@@ -11,7 +11,7 @@ struct RewriteJob {
   TextView text;  // of the progress dialog
   RewritePlan plan;
   const std::vector<ItemLine>* items = nullptr;  // the new items, where they change
-  std::function<void()> whenDone;                // puts cursor and settings right for the new table; before a reload
+  std::function<void()> whenDone = {};           // puts cursor and settings right for the new table; before a reload
   bool canStop = true;
 };
 

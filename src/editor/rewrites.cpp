@@ -11,6 +11,7 @@
 #include "platform/number.h"
 #include "store/cursor.h"
 #include "store/itemfile.h"
+#include "store/mainform.h"
 #include "store/records.h"
 #include "voice/progress.h"
 #include "voice/talk.h"

@@ -22,8 +22,8 @@ class Walk {
         write_(write),
         keepGoing_(keepGoing),
         total_(recordsOf(plan)),
-        old_(kBlockRecords * kRecord) {
-    if (!plan.cells.empty()) made_.resize(old_.size());
+        old_(blockRecords() * kRecord) {
+    made_.resize(plan.cells.empty() ? 0 : old_.size());
   }
 
   RewriteEnd run() {
@@ -39,15 +39,17 @@ class Walk {
   }
 
  private:
+  std::size_t blockRecords() const { return std::min<std::size_t>(kBlockRecords, static_cast<std::size_t>(total_)); }
+
   RewriteEnd block(const Stretch& stretch, std::int32_t at, std::size_t count) {
     if (stretch.first == 0)
       std::memset(old_.data(), ' ', count * kRecord);
     else if (!read_(std::int64_t{stretch.first} - 1 + at, count, old_.data()))
       return RewriteEnd::failed;
-    char* out = made_.empty() ? old_.data() : made_.data();
+    char* out = plan_.cells.empty() ? old_.data() : made_.data();
     for (std::size_t i = 0; i < count; ++i) {
       char* record = out + i * kRecord;
-      if (!made_.empty()) make(old_.data() + i * kRecord, record);
+      if (!plan_.cells.empty()) make(old_.data() + i * kRecord, record);
       record[kDataBytes] = '\r';
       record[kDataBytes + 1] = '\n';
       if (!goOn()) return RewriteEnd::stopped;

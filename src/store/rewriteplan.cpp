@@ -137,6 +137,11 @@ std::vector<CellMove> cellMoves(const std::vector<ItemLine>& old, const std::vec
   return moves;
 }
 
+CellMove realigned(const std::vector<ItemLine>& items, int item, TextView alignment) {
+  const Cell cell = cellsOf(items)[static_cast<std::size_t>(item)];
+  return {cell.start, cell.width, cell.start, cell.width, alignment == u"R" ? Justify::right : Justify::left};
+}
+
 void layCells(const std::vector<CellMove>& cells, const char* old, char* out, char newByte) {
   for (const CellMove& cell : cells) {
     if (cell.justify != Justify::keep) {

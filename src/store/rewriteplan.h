@@ -51,6 +51,9 @@ std::vector<ItemLine> itemsInOrder(const std::vector<ItemLine>& old, const ItemO
 std::vector<CellMove> cellMoves(const std::vector<ItemLine>& old, const std::vector<ItemLine>& items,
                                 const ItemOrder& order);
 
+// The cell of an item, to be laid over the old record: justified anew by its other alignment.
+CellMove realigned(const std::vector<ItemLine>& items, int item, TextView alignment);
+
 // Lays the cells of `old` (256 bytes, 254 of them are looked at) into `out`, which is blank or the old record already.
 // Behind a cell that got wider and is not justified stands `newByte`.
 void layCells(const std::vector<CellMove>& cells, const char* old, char* out, char newByte = ' ');

@@ -10,12 +10,6 @@ namespace {
 
 constexpr int kDataFile = 1, kWork = 2;
 
-bool synced(TextView file) {
-  if (openRandom(kWork, file, recLen) != FileError::none) return false;
-  const bool reached = syncFile(kWork) == FileError::none;
-  return closeFile(kWork) == FileError::none && reached;
-}
-
 // The new shape goes through the second description.
 bool makeWorkItems(const std::vector<ItemLine>& items) {
   otherItemCount = static_cast<std::int16_t>(items.size() - 1);
@@ -26,7 +20,7 @@ bool makeWorkItems(const std::vector<ItemLine>& items) {
     otherItemWidth[i] = items[i].width;
     otherItemStart[i + 1] = static_cast<std::int16_t>(otherItemStart[i] + otherItemWidth[i]);
   }
-  return writeKFileWork(otherItemCount) && synced(besideTable(kWorkItemFile));
+  return writeKFileWork(otherItemCount);
 }
 
 bool readOld(std::int64_t first, std::size_t count, char* out) {
@@ -53,8 +47,10 @@ RewriteEnd makeWork(const RewritePlan& plan, const KeepGoing& keepGoing) {
 }
 
 void deleteWork() {
-  deleteFile(besideTable(kWorkFile));
-  deleteFile(besideTable(kWorkItemFile));
+  for (const TextView name : {kWorkFile, kWorkItemFile}) {
+    setReadOnly(besideTable(name), false);
+    deleteFile(besideTable(name));
+  }
 }
 
 // The records have their new shape already and only the item file could not follow: what is edited goes by the new
@@ -112,6 +108,7 @@ RewriteEnd rewriteTable(const RewritePlan& plan, const std::vector<ItemLine>* it
   if (end == RewriteEnd::done && items != nullptr) {
     Text error;
     readKFile(docPath, docDrive, error);
+    if (!error.empty()) adoptWorkItems();
   }
   computeItemStart();
   if (!isOpen(kDataFile)) reopenData();
