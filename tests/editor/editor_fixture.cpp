@@ -1,6 +1,6 @@
 #include "editor/editor_fixture.h"
 
-#include "editor/cellcommands.h"
+#include "editor/registereditor.h"
 #include "editor/state.h"
 #include "editor/view.h"
 #include "store/cursor.h"
@@ -23,8 +23,8 @@ EditorFixture::EditorFixture() {
   resetCursor();
   resetEditor();
   resetTalk();
-  registerCellCommands();
   appDir = fromUtf8(folder().string()) + u"/";
+  registerEditor();
 }
 
 void EditorFixture::open(const std::vector<ItemOfTable>& items, const Rows& rows, int level) {
