@@ -1,6 +1,7 @@
 #include "editor/registereditor.h"
 
 #include "editor/cellcommands.h"
+#include "editor/clip.h"
 #include "editor/entryitems.h"
 #include "editor/guides.h"
 #include "editor/itemlist.h"
@@ -15,6 +16,7 @@ namespace zelko {
 void registerEditor() {
   registerEditorForms();
   registerCellCommands();
+  registerClip();
   registerEntryItems();
   registerGuides();
   registerItemList();
