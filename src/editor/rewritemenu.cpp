@@ -36,7 +36,8 @@ void takeCursorAsRange(std::int16_t kind) {
 
 void runRangeKey(std::int16_t kind, int code) {
   if (!hasTable()) return;
-  if (rangeKind != kind) {
+  const bool held = rangeKind == kind;
+  if (!held) {
     if (rangeKind != 0) dropRangeAndShow();
     commitBox();
     if (kind == kRecords && curRec > recCount()) return host().beep();
@@ -44,8 +45,8 @@ void runRangeKey(std::int16_t kind, int code) {
   }
   KeyEvent key{code, shift::None};
   finishedRangeKey(key);
-  // A question answered with no leaves the range that the user never chose, or has answered for.
-  if (rangeKind == kind && mode.empty()) dropRangeAndShow();
+  // A question answered with no leaves a range that the user never chose.
+  if (!held && rangeKind != 0) dropRangeAndShow();
 }
 
 void insertAtCursor(std::int32_t count) {
