@@ -5,6 +5,7 @@
 #include "editor/guides.h"
 #include "editor/itemlist.h"
 #include "editor/jumps.h"
+#include "editor/range.h"
 #include "editor/speechmenu.h"
 #include "editor/spitem.h"
 #include "editor/view.h"
@@ -18,6 +19,7 @@ void registerEditor() {
   registerGuides();
   registerItemList();
   registerJumps();
+  registerRanges();
   registerSpeechMenu();
   registerSpItem();
 }
