@@ -1,11 +1,11 @@
 # The desktop host, where Qt 6 is to be had; without it there is the headless one.
 if(ZELKO_DESKTOP)
-  find_package(Qt6 COMPONENTS Widgets PrintSupport QUIET)
+  find_package(Qt6 COMPONENTS Widgets PrintSupport DBus QUIET)
 endif()
 if(Qt6_FOUND)
   file(GLOB QT_HOST CONFIGURE_DEPENDS src/platform/qt/*.cpp)
   add_library(zelko_qt STATIC ${QT_HOST})
-  target_link_libraries(zelko_qt PUBLIC zelko_core Qt6::Widgets Qt6::PrintSupport)
+  target_link_libraries(zelko_qt PUBLIC zelko_core Qt6::Widgets Qt6::PrintSupport Qt6::DBus)
 elseif(ZELKO_DESKTOP)
   message(STATUS "Qt 6 not found: the program is built without windows")
 endif()

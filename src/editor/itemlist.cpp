@@ -19,6 +19,8 @@ namespace zelko {
 namespace {
 
 constexpr int kNameBytes = 30;
+constexpr const char16_t* kReminder =
+    u"｡ﾔｼﾞﾙｼｷ-ﾃﾞ ｺｳﾓｸﾘｽﾄｦ ｲﾄﾞｳｽﾙﾄ ｺｳﾓｸﾒｲ､ﾊｲﾁ､ﾊﾊﾞｶﾞ ﾖﾐｱｹﾞﾗﾚﾏｽ｡CRｷｰﾃﾞ ｾﾝﾀｸ､ｴｽｹｰﾌﾟｷｰﾃﾞ ﾓﾄﾞﾘﾏｽ｡";
 
 std::map<int, std::function<void(int)>>& listCallers() {
   static std::map<int, std::function<void(int)>> callers;
@@ -48,11 +50,15 @@ frmItemList::frmItemList() : Form(kName, u"項目一覧") {
   Command1.isCancel = true;
   Command2.isDefault = true;
   onClose = [this] { Command1.click(); };
-  Narration(*this)
-      .explain([this] { return u"ｺｳﾓｸｲﾁﾗﾝﾌｫｰﾑがﾋｮｳｼﾞｻﾚﾏｼﾀ｡､ｺｳﾓｸ数" + decimal(List1.count()); })
-      .list(List1, u"ｺｳﾓｸﾘｽﾄﾎﾞｯｸｽ")
-      .say(Command1, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ")
-      .say(Command2, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ");
+  const auto entry = [this] {
+    return u"ｺｳﾓｸﾘｽﾄﾎﾞｯｸｽ"
+           u"ｺｳﾓｸｲﾁﾗﾝﾌｫｰﾑがﾋｮｳｼﾞｻﾚﾏｼﾀ｡" +
+           Text(u"､") + u"ｺｳﾓｸ数" + decimal(List1.count()) + kReminder;
+  };
+  List1.onClick = [this] {
+    if (List1.listIndex() >= 0 && gateOpens()) talkNow(List1.text() + markPause + u"ｺｳﾓｸﾘｽﾄﾎﾞｯｸｽ");
+  };
+  Narration(*this).explain(entry).say(List1, entry).say(Command1, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ").say(Command2, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ");
 }
 
 void frmItemList::frmItemList_Command2_Click() {

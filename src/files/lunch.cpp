@@ -1,10 +1,10 @@
 #include "files/lunch.h"
 
 #include "editor/commands.h"
-#include "editor/view.h"
 #include "editor/form1.h"
 #include "editor/speechmenu.h"
 #include "editor/state.h"
+#include "editor/view.h"
 #include "files/disk.h"
 #include "files/help.h"
 #include "files/modeltables.h"
@@ -186,7 +186,12 @@ bool FrmLunch::openFromCommandLine(TextView commandLine) {
   return false;
 }
 
-void FrmLunch::FrmLunch_Activate() { Timer1.setInterval(kTick); }
+// The opening text is the first thing to be heard, not the control that has the focus.
+void FrmLunch::FrmLunch_Activate() {
+  Silence silence;
+  if (Control* control = activeControl()) control->setFocus();
+  Timer1.setInterval(kTick);
+}
 
 void FrmLunch::FrmLunch_Timer1_Timer() {
   if (++ticks_ > 1) Timer1.setInterval(0);
@@ -197,9 +202,7 @@ void FrmLunch::FrmLunch_Timer1_Timer() {
 void FrmLunch::FrmLunch_KeyDown(KeyEvent& key) {
   constexpr int kF11 = key::function(11), kF12 = key::function(12);
   if (key.is(kF11, shift::None) || key.is(kF11, shift::Ctrl)) {
-    Check2.setValue(1);
-    talkMode = key.mask == shift::None ? 1 : 2;
-    showSpeechState();
+    switchOn(key.mask == shift::None ? std::int16_t{1} : std::int16_t{2});
   } else if (key.is(kF12, shift::Ctrl)) {
     talkS(*this, u"ﾖﾐｱｹﾞｵﾌ。");
     waitSec(1);
@@ -208,6 +211,16 @@ void FrmLunch::FrmLunch_KeyDown(KeyEvent& key) {
     return;
   }
   key.swallow();
+}
+
+void FrmLunch::switchOn(std::int16_t level) {
+  {
+    Silence silence;
+    Check2.setValue(1);
+  }
+  talkMode = level;
+  showSpeechState();
+  talkS(*this, level == 1 ? u"データのみ読み上げ" : u"行、項目番号付き読み上げ");
 }
 
 void FrmLunch::FrmLunch_KeyPress(CharEvent& event) {

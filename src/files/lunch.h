@@ -2,6 +2,8 @@
 // one.
 #pragma once
 
+#include <cstdint>
+
 #include "platform/controls.h"
 #include "platform/form.h"
 #include "platform/grid.h"
@@ -53,6 +55,7 @@ class FrmLunch : public Form {
   void narrate();
   void tile(PictureBox& picture, Label& label, int index);
   void open(int index);
+  void switchOn(std::int16_t level);
 
   void FrmLunch_Activate();
   void FrmLunch_KeyDown(KeyEvent& key);

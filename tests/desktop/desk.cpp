@@ -41,6 +41,9 @@ void Desk::letEventsRun() {
 
 void Desk::send(QEvent::Type type, int qtKey, Qt::KeyboardModifiers modifiers, const QString& text) {
   QWindow* window = QGuiApplication::focusWindow();
+  // Without a display nobody gives the focus back when a menu closes.
+  if (!window && screen().activeForm())
+    window = static_cast<QtHost&>(zelko::host()).windowOf(*screen().activeForm())->windowHandle();
   if (window) qt_handleKeyEvent(window, type, qtKey, modifiers, text, false, 1);
 }
 

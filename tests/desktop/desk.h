@@ -55,7 +55,10 @@ class Dialog : public Form {
 class Desk {
  public:
   Desk() { setHost(&host); }
-  ~Desk() { screen().reset(); }
+  ~Desk() {
+    host.closeWindows();
+    screen().reset();
+  }
 
   // Sends a key as the display does: to the window, through the queue.
   static void send(QEvent::Type type, int qtKey, Qt::KeyboardModifiers modifiers = {}, const QString& text = {});
@@ -72,4 +75,13 @@ class Desk {
 template <>
 struct doctest::StringMaker<zelko::Text> {
   static String convert(const zelko::Text& text) { return zelko::toUtf8(text).c_str(); }
+};
+
+template <>
+struct doctest::StringMaker<std::vector<zelko::Text>> {
+  static String convert(const std::vector<zelko::Text>& texts) {
+    zelko::Text all;
+    for (const auto& text : texts) all += u"[" + text + u"] ";
+    return zelko::toUtf8(all).c_str();
+  }
 };

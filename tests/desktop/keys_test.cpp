@@ -95,6 +95,10 @@ TEST_CASE("one key goes down, is pressed, edits, changes and comes up, in this o
     CHECK(all.Text1.content() == u"ab");
     CHECK(all.log.size() == 4);
   }
+  SUBCASE("a key that the editor has no use for comes once") {
+    Desk::press(Qt::Key_F6);
+    CHECK(all.log == std::vector<Text>{u"down 117 0", u"up 117 0"});
+  }
   SUBCASE("a handler that swallows the character") {
     all.Text1.onKeyPress = [](CharEvent& typed) { typed.ch = 0; };
     Desk::type("c");

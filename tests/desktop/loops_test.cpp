@@ -159,6 +159,15 @@ TEST_CASE("menus: what is chosen runs, what is highlighted is told, Alt and a le
     Desk::type("z");
     CHECK(all.Text1.content() == u"z");
   }
+  SUBCASE("Esc leaves the menu, and the next key is the box's again") {
+    Desk::press(Qt::Key_F, Qt::AltModifier, "f");
+    Desk::press(Qt::Key_Escape, {}, "\x1b");
+    CHECK_FALSE(QApplication::activePopupWidget());
+    CHECK(QApplication::focusWidget() == &desk.widgetOf(all.Text1));
+    Desk::type("z");
+    CHECK(all.Text1.content() == u"z");
+    CHECK(heard == std::vector<Text>{u"mnuREAD"});
+  }
   SUBCASE("states follow") {
     all.menu().setChecked(u"mnuREAD", true);
     all.menu().setVisible(u"mnuEND", false);

@@ -17,8 +17,8 @@ using namespace zelko::test;
 
 namespace {
 
-const std::vector<Item> kItems = {{"ID", 3}, {"氏名", 6}, {"点", 3, 'R'}};
-const std::vector<std::vector<std::string>> kRecords = {{"1", "山田", "80"}, {"2", "x", "7"}, {"3", "y", "100"}};
+const std::vector<ItemOfTable> kItems = {{u"ID", 3}, {u"氏名", 6}, {u"点", 3, u'R'}};
+const Rows kRecords = {{u"1", u"山田", u"80"}, {u"2", u"x", u"7"}, {u"3", u"y", u"100"}};
 
 }  // namespace
 
@@ -74,7 +74,7 @@ TEST_CASE_FIXTURE(EditorFixture, "item name and memo go to the item file when th
   CHECK(utf8(itemName[1]) == "nm氏名");
   CHECK(utf8(itemName[2]) == "点");
   play({"focus RichTextBox2", "type 新", "focus txtinputbox"});
-  CHECK(file("Kt.txt").starts_with(toSjis(u"100  ',新memo,,2\r\n")));
+  CHECK(file("Kt.txt").starts_with(toSjis(u"100  ',新t,,2\r\n")));
 }
 
 TEST_CASE_FIXTURE(EditorFixture, "a comma or a line end in name or memo is refused") {
@@ -88,7 +88,7 @@ TEST_CASE_FIXTURE(EditorFixture, "a comma or a line end in name or memo is refus
       CHECK(all.at(2) == "say 文中に｢,｣があってはいけません。OKならCRを叩いてください。");
       CHECK(file("Kt.txt") == before);
       CHECK(utf8(mainForm().RichTextBox1.content()) == "ID");
-      CHECK(utf8(mainForm().RichTextBox2.content()) == "memo");
+      CHECK(utf8(mainForm().RichTextBox2.content()) == "t");
     }
   }
 }

@@ -3,51 +3,34 @@
 
 #include <doctest/doctest.h>
 
-#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "editor/form1.h"
-#include "platform/text.h"
+#include "fixture.h"
 
 namespace zelko::test {
 
-using Heard = std::vector<std::string>;  // "say …" and "beep", UTF-8
+using Heard = std::vector<std::string>;  // "say …" and "beep"
+using Rows = std::vector<std::vector<Text>>;
 
-struct Item {
-  std::string name;
-  int width;
-  char alignment = 'L';
-};
-
-class EditorFixture {
+class EditorFixture : public Fixture {
  public:
   EditorFixture();
-  ~EditorFixture();
-  EditorFixture(const EditorFixture&) = delete;
-  EditorFixture& operator=(const EditorFixture&) = delete;
 
-  // Makes the table in the test's folder and enters the editor at the given speech level; records hold their cells one
-  // behind the other, in UTF-8, each padded to its item. What is heard meanwhile is forgotten.
-  void open(const std::vector<Item>& items, const std::vector<std::vector<std::string>>& records, int level = 2);
-
-  // Key names, "type …" and "commit …"; a second passes before each. A dialog that opens takes the actions behind
-  // the one that opened it. What was heard, in its order.
+  // Makes the table "t" in the test's folder and enters the editor at the given speech level. What is heard meanwhile
+  // is forgotten.
+  void open(const std::vector<ItemOfTable>& items, const Rows& rows, int level = 2);
+  // Key names, "type …", "commit …", "menu …" and "focus" with a control of the main form, a second before each. Gives
+  // what was heard, in its order.
   Heard play(const std::vector<std::string>& actions);
-  // What was heard since the last look.
   Heard heard();
-  bool ended() const;  // the program has ended itself
 
-  int records() const;
-  // Bytes of a record on disk without its trailing blanks, in UTF-8.
-  std::string record(int number) const;
-  std::string file(std::string_view name) const;
-  std::string path(std::string_view name) const { return (folder_ / name).string(); }
+  std::string record(int number) const { return toUtf8(Fixture::record(number)); }
+  std::string path(std::string_view name) const { return (folder() / name).string(); }
+  std::string file(std::string_view name) const { return readBytes(folder() / name); }
   static constexpr std::string_view kTable = "t.txt";
-
- private:
-  std::filesystem::path folder_;
 };
 
 Form1& mainForm();

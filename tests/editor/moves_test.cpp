@@ -4,6 +4,7 @@
 #include "editor/editor_fixture.h"
 #include "editor/moves.h"
 #include "editor/state.h"
+#include "platform/number.h"
 #include "store/cursor.h"
 #include "store/records.h"
 
@@ -12,8 +13,8 @@ using namespace zelko::test;
 
 namespace {
 
-const std::vector<Item> kItems = {{"ID", 4}, {"氏名", 10}, {"点", 3, 'R'}};
-const std::vector<std::vector<std::string>> kRecords = {{"1", "山田", "80"}, {"2", "", "7"}, {"3", "ｻﾄｳ", ""}};
+const std::vector<ItemOfTable> kItems = {{u"ID", 4}, {u"氏名", 10}, {u"点", 3, u'R'}};
+const Rows kRecords = {{u"1", u"山田", u"80"}, {u"2", u"", u"7"}, {u"3", u"ｻﾄｳ", u""}};
 
 std::pair<int, int> cursor() { return {curRec, curItem}; }
 
@@ -125,9 +126,9 @@ TEST_CASE_FIXTURE(EditorFixture, "while a range is chosen the moves store and sh
 }
 
 TEST_CASE_FIXTURE(EditorFixture, "a long table scrolls both ways through a small cache") {
-  std::vector<std::vector<std::string>> many;
-  for (int i = 1; i <= 60; ++i) many.push_back({std::to_string(i)});
-  open({{"ID", 4}}, many, 1);
+  Rows many;
+  for (int i = 1; i <= 60; ++i) many.push_back({decimal(i)});
+  open({{u"ID", 4}}, many, 1);
   for (int i = 2; i <= 60; ++i) CHECK(play({"Down"}) == Heard{"say " + std::to_string(i)});
   for (int i = 59; i >= 1; --i) CHECK(play({"Up"}) == Heard{"say " + std::to_string(i)});
 }

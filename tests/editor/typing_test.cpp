@@ -14,8 +14,8 @@ using namespace zelko::test;
 
 namespace {
 
-const std::vector<Item> kItems = {{"ID", 3}, {"氏名", 5}, {"点", 3, 'R'}};
-const std::vector<std::vector<std::string>> kRecords = {{"1", "abcde", "80"}, {"2"}};
+const std::vector<ItemOfTable> kItems = {{u"ID", 3}, {u"氏名", 5}, {u"点", 3, u'R'}};
+const Rows kRecords = {{u"1", u"abcde", u"80"}, {u"2"}};
 
 }  // namespace
 
@@ -88,7 +88,7 @@ TEST_CASE_FIXTURE(EditorFixture, "a right-justified cell keeps the right end") {
 }
 
 TEST_CASE_FIXTURE(EditorFixture, "the last cell of the last record opens a new line") {
-  open(kItems, {{"1", "a", "2"}}, 2);
+  open(kItems, {{u"1", u"a", u"2"}}, 2);
   play({"Right", "Right"});
   CHECK(play({"commit 123"}) == Heard{"say ﾌﾞﾗﾝｸ  ｷﾞｮｳ2 ｺｳﾓｸ0ID"});
   CHECK(record(1) == "1  a    123");
@@ -129,7 +129,7 @@ TEST_CASE_FIXTURE(EditorFixture, "a box that is emptied during a move leaves not
 }
 
 TEST_CASE_FIXTURE(EditorFixture, "only the written cell changes its bytes") {
-  open({{"ID", 3}, {"a", 4}, {"b", 4}}, {{"1", "x", "y"}}, 1);
+  open({{u"ID", 3}, {u"a", 4}, {u"b", 4}}, {{u"1", u"x", u"y"}}, 1);
   // Half a character in one neighbour, and in the other a code that would come back as another.
   std::string bytes = file(kTable).replace(3, 8, "\x82 \x81  \xFA\x54 ");
   std::ofstream(path(kTable), std::ios::binary) << bytes;

@@ -28,7 +28,8 @@ const StoreFixture& folder() {
 void cutEveryCell() {
   for (std::int32_t number = 1; number <= recCount() + 1; ++number) {
     takeRow(number);
-    for (int item = 0; item < kMaxItems; ++item) require(cellOfCur(item).size() <= recLen, "a cell beyond its record");
+    for (int item = 0; item <= itemCount + 1; ++item)
+      require(cellOfCur(item).size() <= recLen, "a cell beyond its record");
   }
   for (int item = 0; item <= itemCount; ++item) setCell(recCache[0], item, u"東x");
 }

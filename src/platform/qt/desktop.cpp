@@ -7,6 +7,7 @@
 #include "platform/fault.h"
 #include "platform/files.h"
 #include "platform/form.h"
+#include "platform/qt/darkmode.h"
 #include "platform/qt/look.h"
 #include "platform/qt/qstring.h"
 #include "platform/qt/qthost.h"
@@ -50,10 +51,12 @@ int runDesktop(int argc, char** argv, const std::function<void()>& startProgram)
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("zelko"));
   dress(application);
+  followDarkMode();
   QtHost host;
   setHost(&host);
   const int status = runProgram(host, startProgram);
   fire(desktopHooks().onEnd);
+  host.closeWindows();
   screen().reset();
   return status;
 }

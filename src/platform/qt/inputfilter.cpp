@@ -1,6 +1,8 @@
 #include "platform/qt/inputfilter.h"
 
 #include <QApplication>
+#include <QMenu>
+#include <QMenuBar>
 #include <QPointer>
 #include <QTimer>
 #include <utility>
@@ -33,6 +35,16 @@ bool isTyped(QEvent::Type type) {
   return type == QEvent::KeyPress || type == QEvent::KeyRelease || type == QEvent::InputMethod;
 }
 
+// Esc in a menu of the bar leaves the menus altogether; Qt would stay on the bar, where the next Esc is unheard.
+bool closesMenu(const QKeyEvent& key) {
+  auto* menu = key.key() == Qt::Key_Escape ? qobject_cast<QMenu*>(QApplication::activePopupWidget()) : nullptr;
+  auto* bar = menu ? qobject_cast<QMenuBar*>(menu->parentWidget()) : nullptr;
+  if (!bar) return false;
+  menu->close();
+  bar->setActiveAction(nullptr);
+  return true;
+}
+
 bool actsByClick(ControlKind kind) { return kind == ControlKind::label || kind == ControlKind::pictureBox; }
 
 }  // namespace
@@ -46,10 +58,11 @@ bool InputFilter::eventFilter(QObject* receiver, QEvent* event) {
     return false;
   }
   if (!receiver->isWidgetType() || delivering_) return false;
+  if (event->type() == QEvent::KeyPress && closesMenu(static_cast<QKeyEvent&>(*event))) return true;
   auto& widget = static_cast<QWidget&>(*receiver);
   auto* window = dynamic_cast<FormWindow*>(widget.window());
   // Menus and open lists keep their keys while they are open.
-  if (!window || QApplication::activePopupWidget()) return false;
+  if (!window || QApplication::activePopupWidget() || qobject_cast<QMenuBar*>(receiver)) return false;
   return handle(*window, widget, *event);
 }
 
@@ -80,17 +93,24 @@ bool InputFilter::handle(FormWindow& window, QWidget& receiver, QEvent& event) {
 }
 
 bool InputFilter::keyPressed(QKeyEvent& event) {
+  pressed(event);
+  // An editor that had no use for it must not make it climb on to its parents, and through here again.
+  event.accept();
+  return true;
+}
+
+void InputFilter::pressed(QKeyEvent& event) {
   const Keystroke stroke = keystrokeOf(event);
   if (stroke.isModifier()) {
     if (!event.isAutoRepeat()) aloneModifier_ = stroke.mask == 0 ? stroke.code : 0;
-    return true;
+    return;
   }
   aloneModifier_ = 0;
-  if (stroke.code == 0) return true;
+  if (stroke.code == 0) return;
   down_[physicalKey(event, stroke)] = stroke;
   bool used = true;
   guarded([&] { used = routeKeyDown(stroke.code, stroke.mask, stroke.ch); });
-  if (used) return true;
+  if (used) return;
   const Control* control = screen().activeControl();
   View* view = control ? viewOf_(*control) : nullptr;
   if (!view || !view->nativeEdit()) {
@@ -101,7 +121,6 @@ bool InputFilter::keyPressed(QKeyEvent& event) {
   } else if (editorMayHave(stroke, control->kind() == ControlKind::richTextBox)) {
     giveToEditor(*view, event);
   }
-  return true;
 }
 
 bool InputFilter::keyReleased(const QKeyEvent& event) {

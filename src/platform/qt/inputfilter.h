@@ -28,6 +28,7 @@ class InputFilter : public QObject {
  private:
   bool handle(FormWindow& window, QWidget& receiver, QEvent& event);
   bool keyPressed(QKeyEvent& event);
+  void pressed(QKeyEvent& event);
   bool keyReleased(const QKeyEvent& event);
   bool modifierReleased(int code);
   bool committed(QInputMethodEvent& event);

@@ -12,7 +12,7 @@ namespace {
 // Codes of keys that have no name of their own here: signs of the main block and of the keypad, and whatever types
 // a character without a code (kana keys, an input method).
 constexpr int kKeypadMultiply = 106, kKeypadAdd = 107, kKeypadSubtract = 109, kKeypadPoint = 110, kKeypadDivide = 111,
-              kTypesOnly = 229;
+              kTypesOnly = key::Other;
 
 constexpr std::pair<int, int> kNamed[] = {
     {Qt::Key_Backspace, key::Backspace},
@@ -162,7 +162,7 @@ bool editorMayHave(const Keystroke& stroke, bool multiLine) {
     default:
       break;
   }
-  if (!(stroke.mask & shift::Ctrl)) return true;
+  if (!(stroke.mask & shift::Ctrl)) return stroke.ch != 0 || stroke.code == key::Other;
   const int code = stroke.code;
   return code == 'A' || code == 'C' || code == 'V' || code == 'X' || code == 'Z';
 }

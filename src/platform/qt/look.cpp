@@ -33,6 +33,13 @@ class Style : public QProxyStyle {
       return std::max(QProxyStyle::pixelMetric(metric, option, widget), height * 3 / 4);
     return QProxyStyle::pixelMetric(metric, option, widget);
   }
+  // Captions that mix Japanese and Latin fonts are a little wider than they are measured.
+  QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                         const QWidget* widget) const override {
+    QSize out = QProxyStyle::sizeFromContents(type, option, size, widget);
+    if (type == CT_MenuItem && widget) out.rwidth() += 3 * widget->fontMetrics().height();
+    return out;
+  }
 };
 
 void substituteFonts() {

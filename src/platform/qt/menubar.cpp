@@ -16,7 +16,7 @@ MenuBar::MenuBar(QMenuBar& bar, Form& form) : bar_(bar), form_(form) {
 }
 
 QAction* MenuBar::addTo(QWidget& parent, MenuEntry& entry) {
-  QString text = toQt(entry.caption);
+  QString text = entry.isSeparator() ? QString() : toQt(entry.caption);
   if (const Text shortcut = entry.shortcutText(); !shortcut.empty()) text += u'\t' + toQt(shortcut);
   auto* action = new QAction(text, &parent);
   action->setMenuRole(QAction::NoRole);
@@ -34,8 +34,13 @@ QAction* MenuBar::addTo(QWidget& parent, MenuEntry& entry) {
 }
 
 void MenuBar::connectEntry(QAction& action, MenuEntry& entry) {
-  QObject::connect(&action, &QAction::hovered, &action,
-                   [&entry] { guarded([&entry] { fire(onMenuHighlight, entry); }); });
+  QObject::connect(&action, &QAction::hovered, &action, [this, &action, &entry] {
+    if (entry.parent) return highlighted(entry);
+    // Where the menu opens, its first entry is told, not the word of the bar above it.
+    QTimer::singleShot(0, &action, [this, &action, &entry] {
+      if (!actions_.empty() && !(action.menu() && action.menu()->isVisible())) highlighted(entry);
+    });
+  });
   if (!entry.children.empty()) return;
   // Behind the menu's own closing: a command may stay in a loop of its own for long.
   QObject::connect(&action, &QAction::triggered, &action, [this, &action, &entry] {
@@ -47,6 +52,10 @@ void MenuBar::connectEntry(QAction& action, MenuEntry& entry) {
       refresh();
     });
   });
+}
+
+void MenuBar::highlighted(const MenuEntry& entry) {
+  guarded([&entry] { fire(onMenuHighlight, entry); });
 }
 
 void MenuBar::refresh() {

@@ -23,6 +23,7 @@ class MenuBar {
 
  private:
   QAction* addTo(QWidget& parent, MenuEntry& entry);
+  void highlighted(const MenuEntry& entry);
   void connectEntry(QAction& action, MenuEntry& entry);
 
   QMenuBar& bar_;

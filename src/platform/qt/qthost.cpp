@@ -34,7 +34,12 @@ QtHost::QtHost()
 
 QtHost::~QtHost() {
   qApp->removeEventFilter(&filter_);
-  for (const auto& [form, window] : windows_) delete window;
+  closeWindows();
+}
+
+void QtHost::closeWindows() {
+  waiting_.clear();
+  for (const auto& [form, window] : std::exchange(windows_, {})) delete window;
 }
 
 void QtHost::run(const std::function<void()>& startProgram) {

@@ -35,6 +35,9 @@ class QtHost : public Host {
   // Starts the program and serves events until no form is shown any more. Throws what ended it: ProgramEnd or a fault.
   void run(const std::function<void()>& startProgram);
 
+  // Before the forms go all at once at the end: nothing of them is asked for any more.
+  void closeWindows();
+
   FormWindow* windowOf(const Form& form) const;
 
   void formShown(Form& form) override;

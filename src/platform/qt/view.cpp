@@ -6,7 +6,9 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QTimer>
+#include <algorithm>
 
 #include "platform/controls.h"
 #include "platform/form.h"
@@ -28,7 +30,8 @@ void makeLabel(View& view, QWidget* parent) {
     if (property != Property::caption) return;
     label->setText(shownCaption(view.control.caption()));
     const QFontMetrics metrics(label->font());
-    const int longest = metrics.horizontalAdvance(u'0') * kLongestLabelLine;
+    const int longest =
+        std::min(metrics.horizontalAdvance(u'0') * kLongestLabelLine, label->screen()->availableSize().width() * 3 / 4);
     label->setMinimumWidth(
         std::min(metrics.boundingRect({}, 0, label->text()).width() + metrics.height() / 2, longest));
   };

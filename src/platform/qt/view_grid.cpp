@@ -120,7 +120,7 @@ void dress(Table& table, Cells& cells) {
   table.setModel(&cells);
   table.setItemDelegate(new CellPainter(cells, &table));
   table.setEditTriggers(QAbstractItemView::NoEditTriggers);
-  table.setSelectionMode(QAbstractItemView::SingleSelection);
+  table.setSelectionMode(QAbstractItemView::NoSelection);
   table.setFocusPolicy(Qt::ClickFocus);
   table.setTabKeyNavigation(false);
   table.setWordWrap(false);

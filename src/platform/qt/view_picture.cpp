@@ -74,9 +74,10 @@ class Picture : public QWidget {
   void paintEvent(QPaintEvent*) override {
     if (!box_) return;
     QPainter painter(this);
-    painter.fillRect(rect(), palette().base());
-    painter.setPen(QPen(palette().text().color(), 2));
     if (box_->operations().empty()) return paintTile(painter);
+    // Drawings come with colours of their own, meant for paper.
+    painter.fillRect(rect(), Qt::white);
+    painter.setPen(Qt::black);
     const double k = pixelsPerTwip(*this);
     painter.scale(k, k);
     for (const Operation& operation : box_->operations()) paint(painter, operation);
@@ -85,6 +86,8 @@ class Picture : public QWidget {
  private:
   // A picture without a drawing is a tile to choose: its frame, and its caption where it has one.
   void paintTile(QPainter& painter) const {
+    painter.fillRect(rect(), palette().base());
+    painter.setPen(QPen(palette().text().color(), 2));
     painter.drawRect(rect().adjusted(1, 1, -2, -2));
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, shownCaption(box_->caption()));
   }

@@ -5,6 +5,7 @@
 #include <QSignalBlocker>
 #include <QTextBlock>
 #include <QTextCursor>
+#include <algorithm>
 #include <limits>
 
 #include "platform/controls.h"
@@ -82,7 +83,8 @@ Edited editedLines(const QPlainTextEdit& edit, const TextBox& box) {
   const QTextCursor cursor = edit.textCursor();
   Edited now;
   // Untouched, it keeps its own line ends, whatever they are.
-  now.text = text == linesByLf(box.content()) ? box.content() : fromQt(QString(text).replace(u'\n', QLatin1String("\r\n")));
+  now.text =
+      text == linesByLf(box.content()) ? box.content() : fromQt(QString(text).replace(u'\n', QLatin1String("\r\n")));
   now.start = modelPosition(text, cursor.selectionStart());
   now.length = modelPosition(text, cursor.selectionEnd()) - now.start;
   return now;
@@ -107,20 +109,33 @@ void pushLines(QPlainTextEdit& edit, const TextBox& box) {
 // As tall as the lines it is asked to show, whatever the font.
 class Lines : public QPlainTextEdit {
  public:
-  using QPlainTextEdit::QPlainTextEdit;
+  Lines(int rows, QWidget* parent) : QPlainTextEdit(parent), rows_(rows) {}
   QSize sizeHint() const override {
-    constexpr int kColumns = 40, kRows = 6;
+    constexpr int kColumns = 40;
     const QFontMetrics metrics = fontMetrics();
-    return {metrics.horizontalAdvance(u'0') * kColumns, metrics.lineSpacing() * kRows + metrics.height()};
+    return {metrics.horizontalAdvance(u'0') * kColumns, metrics.lineSpacing() * rows_ + metrics.height()};
   }
   QSize minimumSizeHint() const override {
     const QFontMetrics metrics = fontMetrics();
     return {metrics.horizontalAdvance(u'0') * 10, metrics.lineSpacing() + metrics.height()};
   }
+
+ private:
+  int rows_;
 };
 
+// A box that a form is made for is tall; one among others shows a name or a memo.
+int rowsOf(const TextBox& box) {
+  constexpr int kTall = 12, kLow = 2;
+  const auto& all = box.form().controls();
+  const auto another = [&box](const Control* c) {
+    return c != &box && (c->kind() == ControlKind::richTextBox || c->kind() == ControlKind::textBox);
+  };
+  return std::any_of(all.begin(), all.end(), another) ? kLow : kTall;
+}
+
 void makeLines(View& view, TextBox& box, QWidget* parent) {
-  auto* edit = new Lines(parent);
+  auto* edit = new Lines(rowsOf(box), parent);
   edit->setContextMenuPolicy(Qt::NoContextMenu);
   edit->setFocusPolicy(Qt::ClickFocus);
   view.widget = edit;

@@ -1,0 +1,70 @@
+#include "files/files_fixture.h"
+
+#include "editor/registereditor.h"
+#include "editor/state.h"
+#include "editor/view.h"
+#include "files/disk.h"
+#include "files/help.h"
+#include "store/cursor.h"
+#include "store/table.h"
+#include "voice/talk.h"
+
+namespace zelko::test {
+
+namespace {
+
+void registerOnce() {
+  static const bool done = [] {
+    registerEditor();
+    registerFilePicker();
+    registerHelp();
+    return true;
+  }();
+  (void)done;
+}
+
+}  // namespace
+
+FilesFixture::FilesFixture() {
+  registerOnce();
+  resetTable();
+  resetCursor();
+  resetEditor();
+  resetTalk();
+  talkMode = 2;
+  appDir = fromUtf8(folder().string()) + u"/";
+}
+
+Text FilesFixture::table(TextView name) { return makeTable(name, {{u"ID", 4}, {u"氏名", 20}}, {{u"1", Text(name)}}); }
+
+void FilesFixture::edit(const Text& dataFile) {
+  run([&] { REQUIRE(openAndEnter(dataFile)); });
+  heard();
+}
+
+void FilesFixture::pick(TextView job) {
+  Fixture::play("wait 1");
+  run([job = Text(job)] {
+    mode = job;
+    showFilePicker();
+  });
+}
+
+std::string FilesFixture::play(const std::vector<std::string>& lines) {
+  for (const std::string& line : lines) Fixture::play(line);
+  return heard();
+}
+
+std::string FilesFixture::heard() {
+  std::string all;
+  for (std::string line : events()) {
+    if (line.starts_with("+ ") || line.starts_with("- ")) continue;
+    if (line.starts_with("say ")) line = line.substr(4);
+    for (std::size_t at; (at = line.find(folder().string())) != std::string::npos;)
+      line.replace(at, folder().string().size(), "~");
+    all += (all.empty() ? "" : " / ") + line;
+  }
+  return all;
+}
+
+}  // namespace zelko::test
