@@ -30,13 +30,13 @@ bool growTo(std::int32_t last) {
   return true;
 }
 
-std::vector<Text> cellsOf(const CacheRow& row, const Block& block) {
+std::vector<Text> cellsOf(const CacheRow& row, const RangeBlock& block) {
   std::vector<Text> cells;
   for (int item = block.item1; item <= block.item2; ++item) cells.push_back(trimmed(cellOfRow(row, item)));
   return cells;
 }
 
-void blankCells(CacheRow& row, const Block& block) {
+void blankCells(CacheRow& row, const RangeBlock& block) {
   for (int item = block.item1; item <= block.item2; ++item) setCell(row, item, u"");
 }
 
@@ -47,7 +47,7 @@ void putCells(CacheRow& row, int toItem, const std::vector<Text>& cells) {
   }
 }
 
-bool copyRecord(const Block& block, std::int32_t from, std::int32_t to, std::int16_t toItem, bool moves) {
+bool copyRecord(const RangeBlock& block, std::int32_t from, std::int32_t to, std::int16_t toItem, bool moves) {
   CacheRow source, target;
   if (!getRec(kDataFile, from, source)) return false;
   const std::vector<Text> cells = cellsOf(source, block);
@@ -66,7 +66,7 @@ bool copyRecord(const Block& block, std::int32_t from, std::int32_t to, std::int
 
 }  // namespace
 
-bool copyBlock(const Block& block, std::int32_t toRec, std::int16_t toItem, bool moves) {
+bool copyBlock(const RangeBlock& block, std::int32_t toRec, std::int16_t toItem, bool moves) {
   const std::int32_t count = block.rec2 - block.rec1 + 1;
   if (!growTo(toRec + count - 1)) return false;
   // Towards the end from the last record on, as a record that is still to be read must not be written.

@@ -12,6 +12,6 @@ namespace zelko {
 // itemCount are dropped. With `moves` what the block leaves behind is blanked. Overlapping places do not smear. The
 // current row has been stored; the cache is to be loaded afterwards. False when a record could not be written (told):
 // what was put so far stays, and no source is blanked before its copy stands.
-bool copyBlock(const Block& block, std::int32_t toRec, std::int16_t toItem, bool moves);
+bool copyBlock(const RangeBlock& block, std::int32_t toRec, std::int16_t toItem, bool moves);
 
 }  // namespace zelko

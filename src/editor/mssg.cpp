@@ -81,7 +81,7 @@ void frmMSSG::frmMSSG_Command1_Click() {
 }
 
 void frmMSSG::moveRecordsThere() {
-  const Block block = heldBlock();
+  const RangeBlock block = heldBlock();
   if (targetIsInside(block.rec1, block.rec2)) return showOK(u"移動点と移動記録範囲と重なっています", u"移動点の再設定");
   talkNow(Text(u"記録の移動実行中．．．．"));
   const std::int32_t target = moveTo;
@@ -91,7 +91,7 @@ void frmMSSG::moveRecordsThere() {
 }
 
 void frmMSSG::moveItemsThere() {
-  const Block block = heldBlock();
+  const RangeBlock block = heldBlock();
   if (targetIsInside(block.item1, block.item2))
     return showOK(u"移動点と移動項目範囲と重なっています", u"移動点の再設定");
   const auto target = static_cast<std::int16_t>(moveTo);
@@ -124,7 +124,7 @@ void pointAtTarget(const PointingWords& words) {
 }
 
 void moveTarget() {
-  const Block block = heldBlock();
+  const RangeBlock block = heldBlock();
   const auto lastItem = static_cast<std::int16_t>(curItem + block.item2 - block.item1);
   if (mode == u"moveitem") {
     targetMask(block.rec1, block.rec2, curItem, curItem, targetColour());

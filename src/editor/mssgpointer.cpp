@@ -70,7 +70,7 @@ std::optional<std::int32_t> allowedPlace(const Wish& wish) {
   const std::int64_t highest = records ? std::int64_t{recCount()} + (pointsAtData() ? 1 : 0) : itemCount;
   std::int64_t place = wish.place;
   if (!pointsAtData()) {
-    const Block block = heldBlock();
+    const RangeBlock block = heldBlock();
     const std::int64_t first = records ? block.rec1 : block.item1, last = records ? block.rec2 : block.item2;
     if (place >= first && place <= last + 1) place = place > placeOn(wish.axis) ? last + 2 : first - 1;
   }
@@ -91,7 +91,7 @@ Text span(std::int32_t first, std::int32_t last) {
 Text pointerSentence(Axis axis) {
   const bool records = axis == Axis::records;
   const AxisWords& words = records ? kRecordWords : kItemWords;
-  const Block block = heldBlock();
+  const RangeBlock block = heldBlock();
   const std::int32_t first = records ? block.rec1 : block.item1, last = records ? block.rec2 : block.item2;
   const Text end = mode == u"copy" ? u"にｺﾋﾟｰ" : mode == u"move" ? u"に移動" : u"の前に";
   return Text(words.from) + decimal(first) + Text(words.moved) + span(first, last) + Text(words.to) + decimal(moveTo) +

@@ -1,7 +1,5 @@
 #include "editor/rangecommands.h"
 
-#include <algorithm>
-
 #include "editor/commands.h"
 #include "editor/moves.h"
 #include "editor/range.h"
@@ -25,43 +23,37 @@ void rangeUsed() {
   if (rangeKind != 0) dropRangeAndShow();
 }
 
-// The cursor goes where the rewrite begins, so that it stands in the table afterwards.
-void goToBlock(const Block& block) {
-  commitBox();
-  autoIdOn = 0;
-  curRec = block.rec1;
-  loadCache(curRec);
-}
-
-void deleteRecordRange(const Block& block) {
+void deleteRecordRange(const RangeBlock& block) {
   const Text question = recordsWords(block) +
                         u"を　削除し、以後のﾃﾞｰﾀを前に詰めます。削除部はクリップファイルになります｡"
                         u"なお記録数の多い場合は時間がかかります。";
   if (!askYesNo(question, u"指定範囲の記録の排除")) return;
   mode = u"killrecord";
-  goToBlock(block);
+  commitBox();
+  autoIdOn = 0;
   deleteRecords(block.rec1, block.rec2);
   rangeUsed();
 }
 
-void deleteItemRange(const Block& block) {
+void deleteItemRange(const RangeBlock& block) {
   if (itemCount == 0 || block.item1 == 0) return host().beep();
   if (!askYesNo(itemsWords(block) + u"　を　削除します。復活はできません。", u"項目の削除")) return;
   commitBox();
-  const int left = itemCount - (block.item2 - block.item1 + 1);
-  curItem = static_cast<std::int16_t>(std::min<int>(block.item1, left));
   deleteItems(block.item1, block.item2);
   rangeUsed();
 }
 
-void insertAtRecords(const Block& block) {
+void insertAtRecords(const RangeBlock& block) {
   mode = u"insertrecord";
-  goToBlock(block);
+  commitBox();
+  autoIdOn = 0;
+  curRec = block.rec1;
+  loadCache(curRec);
   insertRecords(block.rec2 - block.rec1 + 1, docPath, docDrive);
   rangeUsed();
 }
 
-void insertAtItems(const Block& block) {
+void insertAtItems(const RangeBlock& block) {
   const Text question = u"項目" + decimal(block.item1) + u"の前に" + decimal(block.item2 - block.item1 + 1) +
                         u" 項目、挿入します。挿入項目の項目幅は１、左詰め、項目名は適当な名前が付けられます。"
                         u"操作終了後ﾒﾆｭｰのﾋｮｳﾃﾞｻﾞｲﾝ項目幅の変更等の機能で必要に応じて変更して下さい。";
@@ -71,7 +63,7 @@ void insertAtItems(const Block& block) {
   rangeUsed();
 }
 
-void clearBlock(const Block& block) {
+void clearBlock(const RangeBlock& block) {
   const Text question =
       rectangleWords(block) + u" のデータを消去し、ブランクに置き換えます。消去部はクリップファイルになります";
   if (!askYesNo(question, u"指定範囲データ消去")) return;

@@ -37,13 +37,13 @@ void refuseAndDrop() {
 }
 
 // Where an item move begins to point; -1 where there is nothing to move past on that side.
-int firstItemTarget(const Block& block, int direction) {
+int firstItemTarget(const RangeBlock& block, int direction) {
   if (direction > 0) return block.item2 + 2 <= itemCount ? block.item2 + 2 : -1;
   if (block.item1 == 0) return -1;
   return block.item1 < 3 ? 1 : block.item1 - 1;
 }
 
-std::int32_t firstRecordTarget(const Block& block, std::int32_t count, int direction) {
+std::int32_t firstRecordTarget(const RangeBlock& block, std::int32_t count, int direction) {
   if (direction > 0) return block.rec2 > count - 2 ? -1 : block.rec2 + 2;
   if (block.rec1 < 2) return -1;
   return block.rec1 < 3 ? 1 : block.rec1 - 1;
@@ -90,7 +90,7 @@ void startItemMoveByMenu() {
 
 void startItemMove(int direction) {
   if (refusedAsReadOnly()) return;
-  const Block block = heldBlock();
+  const RangeBlock block = heldBlock();
   if (block.item2 >= itemCount - 2 && block.item1 == 0) return refuseAndDrop();
   const int target = firstItemTarget(block, direction);
   if (target < 0) return host().beep();
@@ -102,7 +102,7 @@ void startItemMove(int direction) {
 
 void startRecordMove(int direction) {
   if (refusedAsReadOnly()) return;
-  const Block block = heldBlock();
+  const RangeBlock block = heldBlock();
   const std::int32_t count = recCount();
   if (block.rec2 >= count - 2 && block.rec1 == 1) return refuseAndDrop();
   const std::int32_t target = firstRecordTarget(block, count, direction);
@@ -114,7 +114,7 @@ void startRecordMove(int direction) {
 
 void startDataMove(TextView what) {
   if (refusedAsReadOnly()) return;
-  const Block block = heldBlock();
+  const RangeBlock block = heldBlock();
   mode = what;
   moveTo = curRec = block.rec1;
   curItem = block.item1;

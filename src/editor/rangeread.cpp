@@ -44,7 +44,7 @@ const CacheRow& readRecord(std::int32_t record) {
   return recCache[0];
 }
 
-Text stretch(const CacheRow& row, const Block& block) {
+Text stretch(const CacheRow& row, const RangeBlock& block) {
   const int start = std::clamp(itemStart[at(block.item1)] - 1, 0, kDataBytes);
   const int end = std::clamp(itemStart[at(block.item2)] - 1 + itemWidth[at(block.item2)], start, kDataBytes);
   const std::string_view bytes(row.data(), row.size());
@@ -52,7 +52,7 @@ Text stretch(const CacheRow& row, const Block& block) {
 }
 
 Text dataOfRange() {
-  const Block block = heldBlock();
+  const RangeBlock block = heldBlock();
   Reading reading;
   for (std::int32_t record = block.rec1; record <= block.rec2; ++record) {
     const CacheRow& row = readRecord(record);
@@ -99,7 +99,7 @@ void RangeYOMi(int number) {
 
 void rangeReadAloud() {
   if (talkMode == 0) return;
-  const Block block = heldBlock();
+  const RangeBlock block = heldBlock();
   Reading reading;
   for (std::int32_t record = block.rec1; record <= block.rec2; ++record) {
     const Text words = stretch(readRecord(record), block);
