@@ -6,6 +6,7 @@
 #include "editor/guides.h"
 #include "editor/itemlist.h"
 #include "editor/jumps.h"
+#include "editor/range.h"
 #include "editor/rewrites.h"
 #include "editor/speechmenu.h"
 #include "editor/spitem.h"
@@ -21,6 +22,7 @@ void registerEditor() {
   registerGuides();
   registerItemList();
   registerJumps();
+  registerRanges();
   registerRewrites();
   registerSpeechMenu();
   registerSpItem();
