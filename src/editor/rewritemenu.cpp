@@ -64,7 +64,8 @@ void insertOne() {
 void insertMany() {
   if (!hasTable()) return;
   if (rangeKind == kRecords) return runRangeKey(kRecords, key::Insert);
-  const Text answer = talkAsk(u"今の記録の前に、何記録挿入しますか？", u"複数記録挿入", u"1");
+  const Text answer = talkAsk(u"今の記録の前に、何記録挿入しますか？なおﾌｧｲﾙの長さに応じて時間がかかる場合があります。",
+                              u"複数記録挿入", u"1");
   if (trimmed(answer).empty()) return;
   const double count = val(toHalfWidth(answer));
   if (count < 1 || count > 999999 || count != static_cast<double>(static_cast<std::int32_t>(count)))
