@@ -4,6 +4,7 @@
 #include "editor/hani.h"
 #include "editor/range_fixture.h"
 #include "editor/view.h"
+#include "platform/routing.h"
 #include "store/records.h"
 
 using namespace zelko;
@@ -182,6 +183,29 @@ TEST_CASE_FIXTURE(RangeFixture, "a range longer than the cache is followed by th
   CHECK(range() == std::vector{2, 1, 199, 0, 4});
   CHECK(masks() == utf8(decimal(cacheBase)) + "-199 0-4 " + kRed);
   CHECK(cacheBase > 1);
+}
+
+TEST_CASE_FIXTURE(RangeFixture, "a key says what it did once, whatever is released first or held down") {
+  table(9);
+  const auto down = [this](int code, int mask) { run([=] { routeKeyDown(code, mask, 0); }); };
+  const auto up = [this](int code, int mask) { run([=] { routeKeyUp(code, mask); }); };
+  down(key::Shift, shift::Shift);
+  down(key::Down, shift::Shift);
+  heard();
+  up(key::Down, shift::Shift);
+  CHECK(heard().size() == 1);
+  up(key::Shift, shift::None);
+  CHECK(heard().empty());
+  down(key::Alt, shift::Alt);
+  down('N', shift::Alt);
+  Fixture::play("wait 1");
+  up('N', shift::Alt);
+  up(key::Alt, shift::None);
+  CHECK(heard() == Heard{"say 1。ギョウ1 項目0ID"});
+  for (int repeat = 0; repeat < 3; ++repeat) down(key::Down, shift::None);
+  down(key::Enter, shift::None);
+  CHECK(range() == std::vector{1, 1, 4, 0, 0});
+  CHECK(cells(curRec) == "4|N4|40|x4|J4");
 }
 
 TEST_CASE_FIXTURE(RangeFixture, "silence chooses the same range without composing a sentence") {

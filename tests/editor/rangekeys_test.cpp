@@ -80,6 +80,14 @@ TEST_CASE_FIXTURE(RangeFixture, "each key asks its question, and yes does it to 
   }
 }
 
+TEST_CASE_FIXTURE(RangeFixture, "the last record goes too") {
+  table(1);
+  play({"Alt+Down", "Enter", "Delete", "Y"});
+  CHECK(records() == 0);
+  CHECK(cursor() == std::pair{1, 0});
+  CHECK(play({"Shift+Down"}) == Heard{"beep"});
+}
+
 TEST_CASE_FIXTURE(RangeFixture, "what is refused with a beep leaves the table") {
   const std::vector<std::vector<std::string>> refused = {
       {"Alt+Right", "Enter", "Delete"},                            // the ID item
