@@ -32,7 +32,7 @@ install_packages() {
   rm -f "$log"
 }
 
-build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev libmecab-dev mecab-ipadic-utf8 libspeechd-dev
+build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev libmecab-dev mecab-ipadic-utf8 kanjidic
                 speech-dispatcher speech-dispatcher-espeak-ng espeak-ng fonts-ipafont)
 test_packages=(doctest-dev clang-format)
 

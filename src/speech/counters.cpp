@@ -213,7 +213,8 @@ const Counter* tableCounter(TextView text, std::size_t at) {
     if (text.substr(at, sign.size()) != sign) continue;
     const std::size_t behind = at + sign.size();
     if (isLetter(sign.front()) && behind < text.size() && (isLetter(text[behind]) || isDigit(text[behind]))) continue;
-    return &counter;
+    const bool nextLabel = behind < text.size() && isDigit(text[behind]) && (sign == u"項目" || sign == u"記録");
+    return nextLabel ? nullptr : &counter;  // "記録1項目2" counts no items
   }
   return nullptr;
 }

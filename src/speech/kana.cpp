@@ -22,9 +22,10 @@ char16_t katakanaOf(char16_t unit) {
 bool isAllKatakana(TextView text) { return !text.empty() && std::all_of(text.begin(), text.end(), isKatakana); }
 
 // Words of tables and lists that the dictionary reads in another sense.
-const char16_t* ownReading(TextView word) {
+const char16_t* ownReading(TextView word, TextView found) {
   if (word == u"行") return u"ギョウ";
-  if (word == u"値") return u"アタイ";
+  if (word == u"表" && found == u"オモテ") return u"ヒョウ";
+  if (word == u"等" && found == u"ヒトシ") return u"ナド";
   if (word == u"既存") return u"キゾン";
   return nullptr;
 }
@@ -120,7 +121,8 @@ class Reading {
     const TextView surface = TextView(surface_).substr(word.begin, word.length);
     if (word.particle && (surface == u"は" || surface == u"へ") && spoken_.atSentenceStart())
       return spoken_.append(surface == u"は" ? u"ハ" : u"ヘ");  // no particle begins a sentence: the kana itself
-    if (const char16_t* own = ownReading(surface)) return spoken_.append(own);
+    if (surface == u"値") return spoken_.append(endsCompound(word.begin) ? u"チ" : u"アタイ");
+    if (const char16_t* own = ownReading(surface, word.pronunciation)) return spoken_.append(own);
     if (!isAllKatakana(word.pronunciation)) return sayUnits(word.begin, word.begin + word.length);
     const bool strike = surface.front() == u'叩' && word.pronunciation.starts_with(u"ハタ");
     spoken_.append(strike ? u"タタ" + word.pronunciation.substr(2) : word.pronunciation);
@@ -134,6 +136,13 @@ class Reading {
     constexpr const char16_t* labels[] = {u"項目", u"コウモク", u"行",   u"ギョウ",
                                           u"記録", u"キロク",   u"番号", u"バンゴウ"};
     return std::any_of(std::begin(labels), std::end(labels), [&](TextView end) { return label.ends_with(end); });
+  }
+
+  bool endsCompound(std::size_t at) const {
+    if (at == 0) return false;
+    const Kind before = kindAt(at - 1);
+    return before == Kind::word || before == Kind::number ||
+           (before == Kind::japanese && !isHiragana(surface_[at - 1]));
   }
 
   // The dictionary may cut the program's own kana anywhere, and hiragana often wrongly: both are said in one go.

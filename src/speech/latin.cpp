@@ -27,6 +27,8 @@ constexpr Word kWords[] = {
     {u"esc", u"エスケープ"},
     {u"ctrl", u"コントロール"},
     {u"control", u"コントロール"},
+    {u"ctr", u"コントロール"},
+    {u"kekka", u"ケッカ"},
     {u"alt", u"オルト"},
     {u"shift", u"シフト"},
     {u"tab", u"タブ"},

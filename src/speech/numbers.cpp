@@ -107,7 +107,8 @@ SpokenNumber timeAt(const std::vector<TextView>& groups) {
 // A telephone number or a postal code goes place by place; short groups, as in a house number, by value.
 SpokenNumber dashedAt(const std::vector<TextView>& groups, TextView text, std::size_t at) {
   bool places = false;
-  for (TextView group : groups) places = places || group.size() >= 3 || (group.size() > 1 && group[0] == u'0');
+  const std::size_t longGroup = groups.size() == 2 ? 4 : 3;  // "1-255" is a range
+  for (TextView group : groups) places = places || group.size() >= longGroup || (group.size() > 1 && group[0] == u'0');
   Text kana;
   for (std::size_t i = 0; i + 1 < groups.size(); ++i)
     kana += (places ? placesKana(groups[i]) : wholeNumberKana(groups[i])) + u" ノ ";

@@ -124,7 +124,7 @@ class Cutter {
     while (at_ + length < text_.size() && text_[at_ + length] == unit) ++length;
     if (length < kRunSaidOnce) length = 1;
     const Sign& sign = signOf(unit);
-    const SignRole role = nameAll_ && unit != u'　' ? SignRole::said : roleHere(sign);
+    const SignRole role = nameAll_ && unit != u'　' ? SignRole::said : roleHere(sign, length);
     switch (role) {
       case SignRole::said:
         return add(Kind::word, kWordSurface, nameHere(sign), length);
@@ -144,20 +144,31 @@ class Cutter {
   static bool isAscii(char16_t unit) { return isDigit(unit) || isLetter(unit); }
 
   // A few signs are words in one place and only part their neighbours in another.
-  SignRole roleHere(const Sign& sign) const {
+  SignRole roleHere(const Sign& sign, std::size_t length) const {
+    if (quoted()) return SignRole::said;
+    if (length >= kRunSaidOnce && TextView(u"-=_*―").find(sign.sign) != TextView::npos) return SignRole::pause;
     switch (sign.sign) {
       case u'.':
         return partsName() ? SignRole::said : SignRole::stop;
       case u'/':  // the program parts row and item with it
         return isDigit(before()) && !isAscii(behind()) ? SignRole::pause : SignRole::said;
       case u':':
-        return isLetter(before()) ? SignRole::said : SignRole::pause;
+        return isLetter(before()) && isPath(behind()) ? SignRole::said : SignRole::pause;
+      case u'&':  // the letter of a menu entry
+        return isLetter(behind()) && (before() == u'(' || before() == u',') ? SignRole::silent : SignRole::said;
       case u'～':
         return before() == u'\0' || behind() == u'\0' ? SignRole::pause : SignRole::said;
       default:
         return sign.role;
     }
   }
+
+  // A sign that is talked about: "「,」".
+  bool quoted() const {
+    return before() != 0 && behind() != 0 && TextView(u"「｢『").find(before()) != TextView::npos &&
+           TextView(u"」｣』").find(behind()) != TextView::npos;
+  }
+  static bool isPath(char16_t unit) { return unit == u'/' || unit == u'\\'; }
 
   // The dot in "example.com", "Ver.3" and "住所録.txt", but not the stop before a word such as "ID".
   bool partsName() const {
@@ -169,9 +180,10 @@ class Cutter {
   }
 
   Text nameHere(const Sign& sign) const {
-    if (nameAll_) return sign.name;
+    if (nameAll_ || quoted()) return sign.name;
     if (sign.sign == u'.') return u"ドット";
-    if (sign.sign == u'×' && !isDigit(behind()) && behind() != u' ') return u"バツ";
+    const auto isText = [](char16_t unit) { return unit > u' ' && !isSign(unit); };
+    if (sign.sign == u'×' && !(isText(before()) && isText(behind()))) return u"バツ";
     return sign.name;
   }
 

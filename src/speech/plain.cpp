@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <string_view>
+#include <utility>
 
 namespace zelko {
 
@@ -109,7 +110,8 @@ Text pairSpelled(char16_t high, char16_t low) {
 bool isMistypedLongMark(TextView text, std::size_t at) {
   const char16_t unit = text[at];
   if (unit != u'－' && unit != u'−' && unit != u'‐' && unit != u'―') return false;
-  return at > 0 && isKatakana(text[at - 1]) && at + 1 < text.size() && isKatakana(text[at + 1]);
+  if (at == 0 || !isKatakana(text[at - 1]) || at + 1 >= text.size()) return false;
+  return isKatakana(text[at + 1]) || (unit != u'―' && isKanji(text[at + 1]));
 }
 
 Text spelled(char16_t unit) {
@@ -148,6 +150,16 @@ char16_t repeated(TextView before, char16_t mark) {
   return static_cast<char16_t>(joined - (hiragana ? 0x60 : 0));
 }
 
+// Spellings that the dictionary cuts apart.
+Text fullySpelled(Text text) {
+  constexpr std::pair<TextView, TextView> words[] = {
+      {u"読込み", u"読み込み"}, {u"読込", u"読み込み"},   {u"書込み", u"書き込み"},
+      {u"書込", u"書き込み"},   {u"元配置", u"げん配置"},
+  };
+  for (const auto& [word, spelling] : words) text = replaceAll(text, word, spelling);
+  return text;
+}
+
 }  // namespace
 
 bool isHalfWidthKana(char16_t unit) { return unit >= 0xFF66 && unit <= 0xFF9F; }
@@ -178,7 +190,7 @@ Text plainSpelling(TextView text) {
       plain += spelled(unit);
     }
   }
-  return plain;
+  return fullySpelled(std::move(plain));
 }
 
 Text fullWidthKana(TextView text) {

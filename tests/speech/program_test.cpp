@@ -15,7 +15,8 @@ struct Result {
 
 // `input` goes through the shell's printf. The user's own speech service is left alone.
 Result run(const std::string& options, const std::string& input) {
-  const std::string command = "printf '" + input + "' | SPEECHD_ADDRESS=unix_socket:/nonexistent " ZELKO_READER " " + options + " 2>/dev/null";
+  const std::string command =
+      "printf '" + input + "' | SPEECHD_ADDRESS=unix_socket:/nonexistent " ZELKO_READER " " + options + " 2>/dev/null";
   Result result;
   FILE* pipe = popen(command.c_str(), "r");
   if (pipe == nullptr) return result;
