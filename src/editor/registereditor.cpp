@@ -7,6 +7,7 @@
 #include "editor/guides.h"
 #include "editor/itemlist.h"
 #include "editor/jumps.h"
+#include "editor/range.h"
 #include "editor/rewrites.h"
 #include "editor/speechmenu.h"
 #include "editor/spitem.h"
@@ -23,6 +24,7 @@ void registerEditor() {
   registerGuides();
   registerItemList();
   registerJumps();
+  registerRanges();
   registerRewrites();
   registerSpeechMenu();
   registerSpItem();

@@ -36,7 +36,8 @@ void takeCursorAsRange(std::int16_t kind) {
 
 void runRangeKey(std::int16_t kind, int code) {
   if (!hasTable()) return;
-  if (rangeKind != kind) {
+  const bool held = rangeKind == kind;
+  if (!held) {
     if (rangeKind != 0) dropRangeAndShow();
     commitBox();
     if (kind == kRecords && curRec > recCount()) return host().beep();
@@ -44,8 +45,8 @@ void runRangeKey(std::int16_t kind, int code) {
   }
   KeyEvent key{code, shift::None};
   finishedRangeKey(key);
-  // A question answered with no leaves the range that the user never chose, or has answered for.
-  if (rangeKind == kind && mode.empty()) dropRangeAndShow();
+  // A question answered with no leaves a range that the user never chose.
+  if (!held && rangeKind != 0) dropRangeAndShow();
 }
 
 void insertAtCursor(std::int32_t count) {
@@ -63,7 +64,8 @@ void insertOne() {
 void insertMany() {
   if (!hasTable()) return;
   if (rangeKind == kRecords) return runRangeKey(kRecords, key::Insert);
-  const Text answer = talkAsk(u"今の記録の前に、何記録挿入しますか？", u"複数記録挿入", u"1");
+  const Text answer = talkAsk(u"今の記録の前に、何記録挿入しますか？なおﾌｧｲﾙの長さに応じて時間がかかる場合があります。",
+                              u"複数記録挿入", u"1");
   if (trimmed(answer).empty()) return;
   const double count = val(toHalfWidth(answer));
   if (count < 1 || count > 999999 || count != static_cast<double>(static_cast<std::int32_t>(count)))
