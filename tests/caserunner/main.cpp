@@ -153,11 +153,12 @@ void record(const Case& played, const fs::path& folder, const std::string& trans
   }
 }
 
-// The transcript with FOLDER in place of the folder that this run was played in.
-std::string withoutPlace(std::string transcript, const std::string& place) {
-  for (std::size_t at = 0; (at = transcript.find(place, at)) != std::string::npos; at += 6)
-    transcript.replace(at, place.size(), "FOLDER");
-  return transcript;
+// The folder of a run is another one each time: a transcript calls it "~".
+std::string readTranscript(const fs::path& transcript, const fs::path& folder) {
+  std::string heard = readBytes(transcript);
+  const std::string place = folder.string();
+  for (std::size_t at; (at = heard.find(place)) != std::string::npos;) heard.replace(at, place.size(), "~");
+  return heard;
 }
 
 bool play(const Case& played, bool recording) {
@@ -167,7 +168,7 @@ bool play(const Case& played, bool recording) {
   fs::create_directory(folder);
   if (fs::exists(played.folder / "before")) fs::copy(played.folder / "before", folder, fs::copy_options::recursive);
   int status = runProgram(played, folder, transcript);
-  std::string heard = withoutPlace(readBytes(transcript), folder.string());
+  std::string heard = readTranscript(transcript, folder);
   bool right = status == played.status;
   if (!right) std::cout << "exit status " << status << ", wanted " << played.status << "\n";
   if (recording) {
