@@ -18,6 +18,7 @@
 #include "store/cursor.h"
 #include "store/itemfile.h"
 #include "store/records.h"
+#include "voice/cells.h"
 #include "voice/dialogs.h"
 #include "voice/talk.h"
 
@@ -203,7 +204,9 @@ void sumKeyDown(int code) {
 void escape(bool rangeDropped) {
   if (!box().content().empty()) {
     box().setText({});  // heard as an edit
-  } else if (!rangeDropped) {
+  } else if (rangeDropped) {
+    announceCell();  // the range went in silence
+  } else {
     askToLeave();
   }
   dropRange();
