@@ -1,6 +1,7 @@
 #include "app/wiring.h"
 
 #include "editor/registereditor.h"
+#include "files/design.h"
 #include "files/disk.h"
 #include "files/help.h"
 #include "files/lunch.h"
@@ -15,6 +16,7 @@ void wireProgram() {
   registerLunch();
   registerFilePicker();
   registerHelp();
+  registerTableDesign();
   narrateMenus();
 }
 

@@ -21,16 +21,6 @@ namespace {
 
 constexpr int kDataFile = 1;
 
-// What belongs to the items and records of one table alone.
-void forgetOldTable() {
-  dropRange();
-  autoIdOn = 0;
-  allItemsOn = 1;
-  form<Form1>().Label11.setCaption(entryItemsCaption());
-  unload<frmSPITEM>();
-  spItem = kNoItem;
-}
-
 }  // namespace
 
 void storeEditedTable() {
@@ -42,6 +32,15 @@ void storeEditedTable() {
 void keepEditedTableOpen() {
   if (docPath.empty() || isOpen(kDataFile) || reopenData()) return;
   tellFailure(u"編集中のﾌｧｲﾙが開けません。もう一度確認してください", u"編集中のﾌｧｲﾙ");
+}
+
+void forgetOldTable() {
+  dropRange();
+  autoIdOn = 0;
+  allItemsOn = 1;
+  form<Form1>().Label11.setCaption(entryItemsCaption());
+  unload<frmSPITEM>();
+  spItem = kNoItem;
 }
 
 bool openInPlace(TextView dataFile) {
