@@ -4,6 +4,7 @@
 #include "files/design.h"
 #include "files/disk.h"
 #include "files/help.h"
+#include "files/hozon.h"
 #include "files/lunch.h"
 #include "voice/dialogs.h"
 #include "voice/narration.h"
@@ -17,6 +18,7 @@ void wireProgram() {
   registerFilePicker();
   registerHelp();
   registerTableDesign();
+  registerOutputFiles();
   narrateMenus();
 }
 

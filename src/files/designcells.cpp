@@ -140,7 +140,7 @@ void frmDESIGN::moveOn() {
   if (column() != DesignColumn::width) return moveTo(Grid1.row(), static_cast<DesignColumn>(Grid1.col() + 1));
   if (item() < highest()) return moveTo(Grid1.row() + 1, DesignColumn::name);
   showWritingCell();
-  showOK(u"設定された項目数の記入を終えました。項目数を増やす場合は↓を押してください。", u"項目数の増加");
+  showOK(u"設定された項目数の記入を終えました。項目数を増やす場合は↓を押してください", u"項目数の増加");
 }
 
 void frmDESIGN::moveBack() {

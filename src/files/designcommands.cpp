@@ -94,12 +94,8 @@ void frmDESIGN::finish() {
 
 void frmDESIGN::frmDESIGN_Command2_Click() {
   if (File1.visible()) {
-    unvisible();
-    {
-      const Silence silence;
-      itemin.setFocus();
-    }
-    return showOK(u"参照ファイルリストを閉じました。", u"参照ファイルリストクローズ");
+    closeReference();
+    return showOK(u"参照ファイルリストを閉じました", u"参照ファイルリストクローズ");
   }
   const bool toPicker = mode == u"SVCread" && loadedForm<frmDISK>();
   if (!docPath.empty() || toPicker) return screen().unload(*this);
@@ -114,6 +110,13 @@ void frmDESIGN::unvisible() {
   for (Control* control : {static_cast<Control*>(&Label5), static_cast<Control*>(&Drive1), static_cast<Control*>(&Dir1),
                            static_cast<Control*>(&File1)})
     control->setVisible(false);
+}
+
+// The focus goes back to the design table first, without a word.
+void frmDESIGN::closeReference() {
+  const Silence silence;
+  itemin.setFocus();
+  unvisible();
 }
 
 void frmDESIGN::showReference() {
@@ -161,12 +164,19 @@ bool frmDESIGN::readKToDesign(TextView path, TextView drive) {
 
 void frmDESIGN::frmDESIGN_Command3_Click() {
   if (!File1.visible()) return showReference();
-  Text drive, path;
-  splitName(chosenTable(), drive, path);
-  if (File1.listIndex() >= 0 && !readKToDesign(path, drive)) return;
-  unvisible();
-  moveTo(1, DesignColumn::name);
-  itemin.setFocus();
+  const Text table = chosenTable();
+  Text drive, path, report;
+  splitName(table, drive, path);
+  if (!table.empty()) {
+    if (!readKToDesign(path, drive)) return;
+    report = spokenName(tableOfItemFile(File1.fileName())) + u"の項目設定を写しました。";
+  }
+  closeReference();
+  {
+    const Silence silence;
+    moveTo(1, DesignColumn::name);
+  }
+  talkS(*this, report + cellSentence());
 }
 
 // --- The doors -------------------------------------------------------------------------------------------------

@@ -103,6 +103,7 @@ class frmDESIGN : public Form {
   // The reference boxes.
   void unvisible();
   void showReference();
+  void closeReference();
   Text chosenTable() const;
   Text shapeOfChosen() const;
 
