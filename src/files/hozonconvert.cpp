@@ -28,6 +28,7 @@ namespace {
 
 constexpr int kOutput = 3, kText = 4;
 constexpr TextView kUnfinished = u"HENKAN.QQQ";
+constexpr TextView kConfirm = u"確認";
 constexpr TextView kFinished = u"作業終了ﾒｯｾ-ｼﾞ";
 
 void tellNotOpened() { tellFailure(u"出力ﾌｧｲﾙが開けません。もう一度確認してください", u"出力ﾌｧｲﾙが開けない"); }
@@ -97,8 +98,8 @@ Conversion convert(const Text& source, const Text& fullName) {
 bool isInTheWay(const Text& source, const Text& fullName) {
   const bool isSource = isSameFile(fullName, source);
   const bool isOpen = !docPath.empty() && isSameFile(fullName, joinName(docDrive, docPath));
-  if (isSource) tellFailure(u"変換元のﾌｧｲﾙと同じです｡", u"確認");
-  if (isOpen && !isSource) tellFailure(u"編集中のﾌｧｲﾙと同じです｡", u"確認");
+  if (isSource) tellFailure(u"変換元のﾌｧｲﾙと同じです｡", kConfirm);
+  if (isOpen && !isSource) tellFailure(u"編集中のﾌｧｲﾙと同じです｡", kConfirm);
   return isSource || isOpen;
 }
 
@@ -131,6 +132,7 @@ void runConversion(const Text& fullName) {
   const Text source = pickedFile();
   if (isInTheWay(source, fullName)) return;
   if (!mayTakeOutput(fullName)) return tellNotOpened();
+  if (fileExists(fullName) && !askYesNo(spokenName(fullName) + u"は既にあります。上書きしますか。", kConfirm)) return;
   const Conversion done = convert(source, fullName);
   if (!done.written) return tellWriteError();
   tellConverted(fullName, done);

@@ -8,6 +8,7 @@
 #include "files/hozonname.h"
 #include "files/makefolder.h"
 #include "files/pickerwords.h"
+#include "platform/files.h"
 #include "platform/host.h"
 #include "store/cursor.h"
 #include "store/itemfile.h"
@@ -21,11 +22,10 @@ namespace zelko {
 namespace {
 
 constexpr TextView kOpening =
-    u"出力ファイル名を指定するフォームが開かれました。ファイル名を、拡張子をつけずに入力して、実行ボタンを押してくださ"
-    u"い。"
+    u"出力ファイル名を指定するフォームが開かれました。ファイル名を、拡張子をつけずに入力して、実行ボタンを押してください。"
     u"実行ボタンは拡張子をつけて、入力ボックスにフォーカスを戻します。もう一度実行ボタンを押してください。"
-    u"入力ボックスでCRを叩くだけでもかまいません。ファイルボックスで既存のファイルを選択すると、記録はその後に追加され"
-    u"ます。";
+    u"入力ボックスでCRを叩くだけでもかまいません。";
+constexpr TextView kAppends = u"ファイルボックスで既存のファイルを選択すると、記録はその後に追加されます。";
 
 constexpr TextView kNameBox = u"出力ﾌｧｲﾙ名ﾃｷｽﾄﾎﾞｯｸｽ";
 
@@ -33,6 +33,10 @@ TextView noteFor(TextView job) {
   if (job == u"saveas") return u"同名の既存ファイルがある場合、出力記録は既存記録の後に追加されます";
   if (job == u"CVZLKF") return u"同名の既存ファイルがある場合上書きされます";
   return u"既存ﾌｧｲﾙ指定の場合、出力記録は既存記録の後に追加されます";
+}
+
+Text openingFor(TextView job) {
+  return Text(kOpening) + (job == u"CVZLKF" ? Text(noteFor(job)) + markStop : Text(kAppends));
 }
 
 std::map<Text, OutputJob, std::less<>>& jobs() {
@@ -76,7 +80,7 @@ void formHOZON::wire() {
 
 void formHOZON::narrate() {
   Narration voice(*this);
-  voice.explain([this] { return markStop + Text(kOpening) + Label2.caption(); });
+  voice.explain([this] { return markStop + openingFor(job_) + (job_ == u"CVZLKF" ? Text() : Label2.caption()); });
   voice.box(RichTextBox1, kNameBox);
   boxes_.narrate(voice);
   voice.say(File1, [this] {
@@ -97,7 +101,7 @@ void formHOZON::formHOZON_Activate() {
   if (opened_) return;
   opened_ = true;
   if (talkMode != 0) waitSec(talkGap);
-  talkS(*this, kOpening);
+  talkS(*this, openingFor(job_));
 }
 
 void formHOZON::formHOZON_RichTextBox1_Change() {
@@ -149,7 +153,8 @@ void formHOZON::formHOZON_Command1_Click() {
   const OutputJob* job = jobOf(job_);
   if (!job) return host().beep();
   mode = job_;
-  job->run(fullName);
+  // One table, whatever the case of the letters it was typed in.
+  job->run(findIgnoringCase(fullName).value_or(fullName));
 }
 
 void formHOZON::formHOZON_Command2_Click() {

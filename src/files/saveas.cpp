@@ -13,6 +13,7 @@
 #include "store/notice.h"
 #include "store/records.h"
 #include "voice/dialogs.h"
+#include "voice/talk.h"
 
 namespace zelko {
 
@@ -69,6 +70,8 @@ void saveAs(const Text& fullName) {
     workInOutput(fullName, form<formHOZON>());
     return;
   }
+  // Where the user is now is news, whatever the dialog said a moment ago.
+  talkLast = 0;
   closeOutputDialog();
   reloadCur();
 }
