@@ -1,7 +1,5 @@
 #include "files/hozonending.h"
 
-#include <filesystem>
-
 #include "files/diskopening.h"
 #include "platform/files.h"
 #include "platform/form.h"
@@ -10,6 +8,14 @@
 #include "voice/talk.h"
 
 namespace zelko {
+
+namespace {
+
+constexpr int kOutput = 3;
+
+std::int32_t recordOfTail(std::int64_t length) { return static_cast<std::int32_t>(length / recLen) + 1; }
+
+}  // namespace
 
 void askWhereToWork(TextView question, TextView title) {
   askYesNo(u"<<<<<元のﾌｧｲﾙで作業しますか>>>>?\r" + Text(question), title);
@@ -30,17 +36,23 @@ bool workInOutput(const Text& fullName, Form& dialog) {
   return false;
 }
 
-std::int64_t lengthOfOutput(const Text& fullName) {
-  std::error_code error;
-  const auto length = std::filesystem::file_size(toUtf8(fullName), error);
-  return error ? -1 : static_cast<std::int64_t>(length);
+OutputBefore::OutputBefore(const Text& fullName) : fullName_(fullName) {
+  if (!fileExists(fullName) || openRandom(kOutput, fullName, recLen) != FileError::none) return;
+  length_ = fileLength(kOutput);
+  getRecord(kOutput, recordOfTail(length_), tail_.data());
+  closeFile(kOutput);
 }
 
-void takeBackOutput(const Text& fullName, std::int64_t length) {
-  if (length < 0)
-    deleteFile(fullName);
-  else
-    cutFile(fullName, length);
+void OutputBefore::putBack() const {
+  if (length_ < 0) {
+    deleteFile(fullName_);
+    return;
+  }
+  if (length_ % recLen != 0 && openRandom(kOutput, fullName_, recLen) == FileError::none) {
+    putRecord(kOutput, recordOfTail(length_), tail_.data());
+    closeFile(kOutput);
+  }
+  cutFile(fullName_, length_);
 }
 
 bool mayTakeOutput(const Text& fullName) {

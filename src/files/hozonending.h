@@ -1,7 +1,9 @@
 // How a job that left a new table ends: in which of the two files the user works on.
 #pragma once
 
-#include "platform/text.h"
+#include <cstdint>
+
+#include "store/table.h"
 
 namespace zelko {
 
@@ -14,11 +16,18 @@ void askWhereToWork(TextView question, TextView title);
 // where it can't be opened: the old table is open again.
 bool workInOutput(const Text& fullName, Form& dialog);
 
-// The output file, closed by then, becomes what it was before a job that failed: `length` bytes, or gone where it did
-// not exist (-1).
-void takeBackOutput(const Text& fullName, std::int64_t length);
-// The length of a file, for takeBackOutput; -1 where there is none.
-std::int64_t lengthOfOutput(const Text& fullName);
+// An output file as it is before a job writes behind its records.
+class OutputBefore {
+ public:
+  explicit OutputBefore(const Text& fullName);
+  // After a job that failed, the file closed: as long as it was, with the bytes it had, or gone where there was none.
+  void putBack() const;
+
+ private:
+  Text fullName_;
+  std::int64_t length_ = -1;
+  CacheRow tail_{};  // what is no whole record at its end; a new record takes its place
+};
 
 // Whether a file may take output: not read-only, no folder, and not the item file of a table.
 bool mayTakeOutput(const Text& fullName);

@@ -46,10 +46,10 @@ bool writeOutput(const Text& fullName) {
 
 Copy copyTable(const Text& fullName) {
   if (!mayTakeOutput(fullName)) return Copy::notOpened;
-  const std::int64_t before = lengthOfOutput(fullName);
+  const OutputBefore before(fullName);
   if (openRandom(kOutput, fullName, recLen) != FileError::none) return Copy::notOpened;
   if (writeOutput(fullName)) return Copy::done;
-  takeBackOutput(fullName, before);
+  before.putBack();
   return Copy::failed;
 }
 

@@ -61,9 +61,10 @@ TEST_CASE("an item count is a number from 0 to the length of a record, or not se
     std::string fault;
   };
   const std::string below = "/項目数は0以上でなければいけません。", above = "/項目数は256以下でなければいけません。";
-  for (const Row& r : {Row{u"", -1, ""}, Row{u" 　", -1, ""}, Row{u"0", 0, ""}, Row{u"１２", 12, ""}, Row{u"256", 256, ""},
-                       Row{u"257", -1, above}, Row{u"99999999999999999999", -1, above}, Row{u"-1", -1, below},
-                       Row{u"abc", -1, below}, Row{u"1e400", -1, below}, Row{u"2.5", -1, below}}) {
+  for (const Row& r :
+       {Row{u"", -1, ""}, Row{u" 　", -1, ""}, Row{u"0", 0, ""}, Row{u"１２", 12, ""}, Row{u"256", 256, ""},
+        Row{u"257", -1, above}, Row{u"99999999999999999999", -1, above}, Row{u"-1", -1, below}, Row{u"abc", -1, below},
+        Row{u"1e400", -1, below}, Row{u"2.5", -1, below}}) {
     CAPTURE(toUtf8(r.typed));
     const TypedCount typed = typedCount(r.typed);
     CHECK(typed.count.value_or(-1) == r.count);
@@ -85,7 +86,9 @@ TEST_CASE("a table is refused with a line for all that stands against it") {
       {u"", u"", rowsOfWidths(2, u"1"), "項目数が未定義です"},
       {u"255", u"", rowsOfWidths(256, u"1"), "項目数が不正(1-254)"},
       {u"1", u"", {row(u"ID", u"", u"4"), row(u"a", u"X", u"5")}, "0項目L/Rが未定義です\r\n1項目R/Lを入力して下さい"},
-      {u"1", u"", {row(u"ID", u"L", u""), row(u"a", u"L", u"255")},
+      {u"1",
+       u"",
+       {row(u"ID", u"L", u""), row(u"a", u"L", u"255")},
        "総フィ－ルド長が長すぎます.\r\n0項目項目幅がが未定義です\r\n1項目フィ－ルド幅が不正"},
       {u"1", u"", {row(u"I,D", u"L", u"1"), row(u"a", u"L", u"1")}, "0項目文中に｢,｣があってはいけません"},
       {u"0", u"a,b", rowsOfWidths(1, u"1"), "文中に｢,｣があってはいけません"},
