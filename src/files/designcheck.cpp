@@ -1,6 +1,7 @@
 #include "files/designcheck.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "editor/realign.h"
 #include "platform/number.h"
@@ -103,9 +104,13 @@ std::optional<DesignFault> faultOfCell(DesignColumn column, TextView typed) {
 Text storedCell(DesignColumn column, TextView typed) {
   if (column == DesignColumn::side) return isSide(typed) ? alignmentLetter(typed) : Text(typed);
   if (column == DesignColumn::width) return digitsOf(typed);
-  Text name;
-  std::ranges::copy_if(typed, std::back_inserter(name), [](char16_t ch) { return ch != u'\r' && ch != u'\n'; });
-  return name;
+  return withoutLineEnds(typed);
+}
+
+Text withoutLineEnds(TextView typed) {
+  Text line;
+  std::ranges::copy_if(typed, std::back_inserter(line), [](char16_t ch) { return ch != u'\r' && ch != u'\n'; });
+  return line;
 }
 
 Text digitsOf(TextView typed) {

@@ -31,6 +31,9 @@ Text storedCell(DesignColumn column, TextView typed);
 // A width cell takes half-width digits only; full-width ones are brought to half width.
 Text digitsOf(TextView typed);
 
+// Without the line ends that the clipboard may bring: every box of the design holds one line.
+Text withoutLineEnds(TextView typed);
+
 // The item count as it was typed; nothing for a blank box, beyond any limit for what is no number that can be.
 struct TypedCount {
   std::optional<int> count;

@@ -152,15 +152,24 @@ void frmDESIGN::frmDESIGN_Activate() {
 }
 
 void frmDESIGN::frmDESIGN_box_Change(RichTextBox& box, Text& previous) {
-  if (moving_)
+  if (moving_) {
     previous = box.content();
-  else
-    talkRichChange(box, previous);
+    return;
+  }
+  if (const Text line = withoutLineEnds(box.content()); line != box.content()) {
+    moving_ = true;
+    const Text before = previous;
+    box.setText(line);
+    box.moveCaretToEnd();
+    previous = before;
+    moving_ = false;
+  }
+  talkRichChange(box, previous);
 }
 
 // These boxes hold one line: Return goes on to the next control.
 void frmDESIGN::frmDESIGN_box_KeyDown(RichTextBox& box, KeyEvent& key) {
-  if (!key.is(key::Enter, shift::None)) return;
+  if (key.code != key::Enter) return;
   key.swallow();
   if (&box == &text3) return itemin.setFocus();
   if (Control* next = nextControl(&box, 1)) next->setFocus();

@@ -114,7 +114,7 @@ void formHOZON::formHOZON_RichTextBox1_Change() {
 
 // The box holds one line: Enter presses the default button.
 void formHOZON::formHOZON_RichTextBox1_KeyDown(KeyEvent& key) {
-  if (!key.is(key::Enter, shift::None)) return;
+  if (key.code != key::Enter) return;
   key.swallow();
   formHOZON_Command1_Click();
 }

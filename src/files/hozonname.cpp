@@ -17,7 +17,8 @@ bool hasExtension(TextView name) { return upperCase(right(name, kExtension.size(
 }  // namespace
 
 NameStep settleName(TextView folder, Text& typed, Text& fullName) {
-  const Text name = trimmed(typed);
+  // The clipboard may have brought a line end.
+  const Text name = trimmed(TextView(typed).substr(0, typed.find_first_of(u"\r\n")));
   TextView own = behindFolder(name);
   if (hasExtension(own)) own.remove_suffix(kExtension.size());
   if (isBlank(own)) return NameStep::noName;

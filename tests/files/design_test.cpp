@@ -6,6 +6,7 @@
 
 #include "editor/commands.h"
 #include "editor/form1.h"
+#include "files/disk.h"
 #include "files/files_fixture.h"
 #include "platform/sjis.h"
 #include "store/cursor.h"
@@ -235,4 +236,22 @@ TEST_CASE_FIXTURE(Designer, "Insert turns typing into overwriting") {
   play({"type X"});
   CHECK(play({"show frmDESIGN.itemin"}) == "frmDESIGN.itemin Xame");
   CHECK(play({"key Insert"}) == "挿入");
+}
+
+TEST_CASE_FIXTURE(Designer, "the items of a CSV file are designed from the picker, which then lists such files") {
+  writeBytes(path("x.csv"), "a,b\r\n");
+  Text read;
+  registerCommand(u"csvREAD", [&read] { read = pickedFile(); });
+  pick(u"");
+  play({"click frmDISK.Command2"});
+  CHECK(play({"key Esc", "show forms"}).ends_with("forms frmDISK"));
+  play({"click frmDISK.Command2", "key Enter", "key Enter", "type 4", "focus frmDESIGN.text1", "commit 0"});
+  play({"focus frmDESIGN.text3", "commit new", "focus frmDESIGN.Command1", "key Enter"});
+  CHECK(docPath == fromUtf8(path("new.txt")));
+  play({"focus frmDISK.File1", "key Down", "click frmDISK.Command2"});
+  registerCommand(u"csvREAD", {});
+  CHECK(toUtf8(read) == path("x.csv"));
+  play({"key Esc"});
+  CHECK(play({"show forms"}) == "forms frmSHEET Form1");
+  CHECK(mode.empty());
 }
