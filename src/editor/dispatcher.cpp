@@ -192,25 +192,12 @@ bool isSumKey(const KeyEvent& key) {
   return key.mask == shift::Ctrl && key.code >= key::Num0 && key.code <= key::Num0 + 9;
 }
 
-// Keypad 0 wants a single record across several items, keypad 1 a single item across several records.
-bool sumFitsRange(int code) {
-  const bool oneRecord = rangeRec1 == rangeRec2, oneItem = rangeItem1 == rangeItem2;
-  if (code == key::Num0) return oneRecord && !oneItem;
-  if (code == key::Num0 + 1) return oneItem && !oneRecord;
-  return true;
-}
-
 void sumKeyDown(int code) {
   if (rangeKind == 0) {
     sumKey(code);
     return;
   }
-  if (!sumFitsRange(code)) {
-    host().beep();
-    return;
-  }
-  sumKeyOnRange(code);
-  dropRangeAndShow();
+  sumOnFinishedRange(code);
 }
 
 void escape(bool rangeDropped) {

@@ -101,6 +101,7 @@ bool caretKey(const KeyEvent& key) {
     return true;
   }
   if (key.code == key::Shift && (key.mask & ~shift::Shift) == 0) {
+    if (rangeKind != 0) return true;  // it is being read
     talkGated(trimmed(boxText()).empty() ? Text(u"ブランク") : boxText());
     return true;
   }

@@ -12,6 +12,7 @@
 #include "platform/host.h"
 #include "store/cursor.h"
 #include "store/itemfile.h"
+#include "store/recovery.h"
 #include "store/table.h"
 #include "voice/agent.h"
 #include "voice/dialogs.h"
@@ -271,9 +272,11 @@ void FrmLunch::FrmLunch_Check2_LostFocus() {
 
 void startFromLunch(TextView commandLine) {
   FrmLunch& lunch = form<FrmLunch>();
-  const bool opened = !trimmed(commandLine).empty() && lunch.openFromCommandLine(commandLine);
+  const bool named = !trimmed(commandLine).empty();
+  const bool opened = named && lunch.openFromCommandLine(commandLine);
   showSpeechState();
   if (!opened) {
+    if (!named) offerRecovery(appDir);  // the folder of a named table has been looked at
     lunch.show();
     return;
   }

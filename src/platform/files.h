@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -62,12 +63,15 @@ FileError syncFile(int number);
 // line, a last line without an end counts. Past the end: pastEnd; so is the field behind a comma that ends the file.
 FileError readField(int number, Text& out);
 FileError readLine(int number, Text& out);
+// A line as the bytes of the file, for what must come back as it was: not every code survives a conversion.
+FileError readLineBytes(int number, std::string& out);
 bool atEnd(int number);
 
 // Text writes, Shift-JIS: the line with CR LF, or the text as it stands. They are buffered: an error may come with a
 // later one or with closeFile, and stays.
 FileError printLine(int number, TextView line);
 FileError print(int number, TextView text);
+FileError printBytes(int number, std::string_view bytes);
 
 bool fileExists(TextView path);  // a file, not a folder
 bool folderExists(TextView path);
