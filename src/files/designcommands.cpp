@@ -192,7 +192,7 @@ bool showTableDesign() {
 namespace {
 
 void designFor(TextView job) {
-  storeEditedTable();
+  storeTypedCell();
   mode = job;
   showTableDesign();
   if (mode == job) mode.clear();

@@ -2,6 +2,7 @@
 
 #include "editor/entryitems.h"
 #include "editor/form1.h"
+#include "editor/moves.h"
 #include "editor/spitem.h"
 #include "editor/state.h"
 #include "editor/view.h"
@@ -27,6 +28,12 @@ void storeEditedTable() {
   if (docPath.empty() || !isOpen(kDataFile)) return;
   form<Form1>().storeNames();
   flushRec();
+}
+
+void storeTypedCell() {
+  if (docPath.empty() || !isOpen(kDataFile)) return;
+  commitBox();
+  storeEditedTable();
 }
 
 void keepEditedTableOpen() {

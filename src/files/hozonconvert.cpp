@@ -53,15 +53,40 @@ struct Conversion {
   std::int64_t cutLines = 0;
 };
 
+bool isUtf8(std::string_view line) {
+  const Text text = fromUtf8(line);
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const bool behindLead = at > 0 && text[at - 1] >= 0xD800 && text[at - 1] < 0xDC00;
+    if (text[at] >= 0xDC80 && text[at] <= 0xDCFF && !behindLead) return false;
+  }
+  return true;
+}
+
+// Shift-JIS is what the program writes; a text of this desktop is more often UTF-8, which all its lines show.
+bool sourceIsUtf8(const Text& source) {
+  if (openInput(kText, source) != FileError::none) return false;
+  bool utf8 = true;
+  for (std::string line; utf8 && !atEnd(kText) && readLineBytes(kText, line) == FileError::none;) utf8 = isUtf8(line);
+  closeFile(kText);
+  return utf8;
+}
+
+std::string recordOf(std::string line, bool utf8) {
+  constexpr std::string_view kMark = "\xEF\xBB\xBF";
+  if (!utf8) return line;
+  if (line.starts_with(kMark)) line.erase(0, kMark.size());
+  return toSjis(fromUtf8(line));
+}
+
 // A line is a record, left-justified.
-Conversion copyLines() {
+Conversion copyLines(bool utf8) {
   Conversion done;
-  Text line;
+  std::string line;
   for (std::int32_t record = 1; !atEnd(kText); ++record) {
-    const FileError read = readLine(kText, line);
+    const FileError read = readLineBytes(kText, line);
     if (read == FileError::pastEnd) break;
     if (read != FileError::none) return done;
-    std::string bytes = toSjis(line);
+    std::string bytes = recordOf(line, utf8);
     if (!cutToRecord(bytes)) ++done.cutLines;
     CacheRow row;
     setRow(row, bytes);
@@ -84,7 +109,8 @@ Conversion convert(const Text& source, const Text& fullName) {
   deleteFile(unfinished);
   if (openRandom(kOutput, unfinished, recLen) != FileError::none) return {};
   Conversion done;
-  if (openInput(kText, source) == FileError::none) done = copyLines();
+  const bool utf8 = sourceIsUtf8(source);
+  if (openInput(kText, source) == FileError::none) done = copyLines(utf8);
   closeFile(kText);
   if (closeFile(kOutput) != FileError::none) done.written = false;
   Text drive, path;
@@ -147,7 +173,7 @@ void askForConverted() {
 }
 
 void openConversion() {
-  storeEditedTable();
+  storeTypedCell();
   mode = u"CVZLKF";
   showFilePicker();
   if (mode == u"CVZLKF" || mode == u"tyusi") mode.clear();

@@ -78,7 +78,7 @@ void saveAs(const Text& fullName) {
 
 void openSaveAs() {
   if (docPath.empty()) return host().beep();
-  storeEditedTable();
+  storeTypedCell();
   mode = u"saveas";
   showOutputDialog(besideTable({}));
   if (mode == u"saveas") mode.clear();

@@ -137,6 +137,12 @@ TEST_CASE_FIXTURE(Saver, "an output that can't be opened or written is told, and
   CHECK(recCount() == 2);
 }
 
+TEST_CASE_FIXTURE(Saver, "what was typed and not yet stored is in the copy") {
+  play({"key Esc", "commit 7", "menu mnuRESAS", "commit abc.txt", "key Enter", "key N"});
+  CHECK(file("abc.txt").starts_with("7   "));
+  CHECK(file("t.txt").starts_with("7   "));
+}
+
 TEST_CASE_FIXTURE(Saver, "another folder takes the name along") {
   std::filesystem::create_directory(path("sub"));
   play({"key Esc", "menu mnuRESAS", "commit abc", "focus formHOZON.Dir1", "key End"});
