@@ -46,6 +46,11 @@ bool openedClip(ClipReader& clip, void (*tellMissing)()) {
   return false;
 }
 
+// The cell in its new state is heard when the progress dialog closes: the gate is open again by then.
+void waitForGate() {
+  if (talkMode != 0) waitSec(talkGap);
+}
+
 void showAgain() {
   dispAll(curItem);
   showTitle();
@@ -141,6 +146,7 @@ void restoreBackup() {
     }
     backup.close();
     loadCache(curRec);
+    waitForGate();
   }
   showAgain();
 }
@@ -152,6 +158,7 @@ void paste(ClipReader& clip, TextView work) {
     ending = pasteRecords(clip, progress);
     clip.close();
     loadCache(curRec);
+    waitForGate();
   }
   if (ending == Ending::stopped) return restoreBackup();
   showAgain();

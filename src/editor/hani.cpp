@@ -106,7 +106,9 @@ void frmHANI::narrate() {
       .box(Text4, u"まで、" + Label3.caption() + u"ﾃｷｽﾄﾎﾞｯｸｽ")
       .say(Command2, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ")
       .say(Command1, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ");
-  Text5.onGotFocus = [this] { talkGated(caption() + markStop + Label6.caption()); };
+  Text5.onGotFocus = [this] {
+    if (!leaving_) talkGated(caption() + markStop + Label6.caption());
+  };
 }
 
 void frmHANI::fillBoxes() {
@@ -193,6 +195,7 @@ void frmHANI::answerKey(int number) {
 
 void frmHANI::clip() {
   catchUp();
+  leaving_ = true;
   orderRange();
   runCommand(u"mnuClip");
   const Silence silence;  // the copied text is being read
@@ -202,6 +205,7 @@ void frmHANI::clip() {
 void frmHANI::sum(int code) {
   catchUp();
   if (!sumFitsRange(code)) return host().beep();
+  leaving_ = true;
   const bool leavesFirst = !isPlainSum(code);  // a formula works in the input box
   if (!leavesFirst) sumKeyOnRange(code);
   talkLast = 0;

@@ -35,6 +35,7 @@ void closeBeforeRewrite() {
   const Silence silence;
   hideTargetMask();
   unload<frmMSSG>();
+  talkLast = 0;  // the cell that is there at the end is always heard
 }
 
 void endWork() {
@@ -56,7 +57,7 @@ frmMSSG::frmMSSG() : Form(kName, u"移動") {
   onClose = moveCancel;
   Narration(*this)
       .explain([this] { return markStop + Label1.caption(); })
-      .say(Text2, [this] { return Label1.caption(); })
+      .say(Text2, [this] { return pointed_.empty() ? Label1.caption() : pointed_; })
       .say(Command1, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ")
       .say(Command2, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ");
 }
@@ -67,6 +68,7 @@ void frmMSSG::frmMSSG_Text2_KeyDown(KeyEvent& key) {
   if (!movePointer(key, sentence)) return;
   key.swallow();
   if (sentence.empty()) return;
+  pointed_ = sentence;
   autoIdOn = 0;
   showSilently();
   moveTarget();

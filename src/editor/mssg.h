@@ -24,6 +24,8 @@ class frmMSSG : public Form {
   void moveRecordsThere();
   void moveItemsThere();
   void moveDataThere();
+
+  Text pointed_;  // what the pointer said last
 };
 
 struct PointingWords {

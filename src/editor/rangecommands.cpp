@@ -1,6 +1,7 @@
 #include "editor/rangecommands.h"
 
 #include "editor/commands.h"
+#include "editor/form1.h"
 #include "editor/moves.h"
 #include "editor/range.h"
 #include "editor/rangekeys.h"
@@ -11,7 +12,9 @@
 #include "store/cursor.h"
 #include "store/itemfile.h"
 #include "store/records.h"
+#include "voice/cells.h"
 #include "voice/dialogs.h"
+#include "voice/talk.h"
 
 namespace zelko {
 
@@ -23,6 +26,15 @@ void rangeUsed() {
   if (rangeKind != 0) dropRangeAndShow();
 }
 
+// The same where the command has no closing sentence of its own: the cell that is there now says that it is over,
+// although the dialogs have just spoken.
+void rangeUsedAndTold() {
+  rangeUsed();
+  const Form1& main = form<Form1>();
+  talkLast = 0;
+  talkReturn(u"", main.txtREC.content(), main.txtItemnum.content());
+}
+
 void deleteRecordRange(const RangeBlock& block) {
   const Text question = recordsWords(block) +
                         u"を　削除し、以後のﾃﾞｰﾀを前に詰めます。削除部はクリップファイルになります｡"
@@ -32,7 +44,7 @@ void deleteRecordRange(const RangeBlock& block) {
   commitBox();
   autoIdOn = 0;
   deleteRecords(block.rec1, block.rec2);
-  rangeUsed();
+  rangeUsedAndTold();
 }
 
 void deleteItemRange(const RangeBlock& block) {
@@ -40,7 +52,7 @@ void deleteItemRange(const RangeBlock& block) {
   if (!askYesNo(itemsWords(block) + u"　を　削除します。復活はできません。", u"項目の削除")) return;
   commitBox();
   deleteItems(block.item1, block.item2);
-  rangeUsed();
+  rangeUsedAndTold();
 }
 
 void insertAtRecords(const RangeBlock& block) {
@@ -60,7 +72,7 @@ void insertAtItems(const RangeBlock& block) {
   if (!askYesNo(question, u"項目の挿入")) return;
   commitBox();
   insertItems(block.item1, block.item2);
-  rangeUsed();
+  rangeUsedAndTold();
 }
 
 void clearBlock(const RangeBlock& block) {
@@ -69,7 +81,7 @@ void clearBlock(const RangeBlock& block) {
   if (!askYesNo(question, u"指定範囲データ消去")) return;
   commitBox();
   rangeClear(block.rec1, block.rec2, block.item1, block.item2);
-  rangeUsed();
+  rangeUsedAndTold();
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include "editor/cellcommands.h"
 #include "editor/clip.h"
 #include "editor/entryitems.h"
+#include "editor/fomula.h"
 #include "editor/guides.h"
 #include "editor/itemlist.h"
 #include "editor/jumps.h"
@@ -19,6 +20,7 @@ void registerEditor() {
   registerCellCommands();
   registerClip();
   registerEntryItems();
+  registerFormulas();
   registerGuides();
   registerItemList();
   registerJumps();

@@ -30,9 +30,9 @@ class Held {
 
 void markWhole(TextBox& box) { box.setSelection(0, static_cast<int>(box.content().size())); }
 
-bool isWholeMarked(const TextBox& box) { return box.selLength() == static_cast<int>(box.content().size()); }
-
 }  // namespace
+
+bool frmDESIGN::isWholeMarked(const TextBox& box) { return box.selLength() == static_cast<int>(box.content().size()); }
 
 void frmDESIGN::setHeadings() {
   constexpr TextView kHeadings[] = {u"項目", u"項目名", u"左/右詰", u"項目幅"};
@@ -231,10 +231,7 @@ void frmDESIGN::frmDESIGN_itemin_Change() {
       itemin.moveCaretToEnd();
     }
   }
-  // A text in the place of the whole old one is heard as it is, not as what differs.
-  if (marked_ && !itemin.content().empty()) lastCell_.clear();
-  marked_ = false;
-  talkRichChange(itemin, lastCell_);
+  sayChange(itemin, lastCell_);
 }
 
 // A cell that was only looked at may be left as it is. A dialog that comes in between leaves nothing.

@@ -87,14 +87,22 @@ void frmDESIGN::wireBoxes() {
   for (RichTextBox* box : {&text1, &text2, &text3})
     box->onKeyDown = [this, box](KeyEvent& key) { frmDESIGN_box_KeyDown(*box, key); };
   // Typing replaces the number and the name, and goes on behind the memo.
-  for (RichTextBox* box : {&text1, &text3})
-    box->onGotFocus = [box] { box->setSelection(0, static_cast<int>(box->content().size())); };
-  text2.onGotFocus = [this] { text2.moveCaretToEnd(); };
+  for (RichTextBox* box : {&text1, &text3}) {
+    box->onGotFocus = [this, box] {
+      box->setSelection(0, static_cast<int>(box->content().size()));
+      marked_ = true;
+    };
+  }
+  text2.onGotFocus = [this] {
+    text2.moveCaretToEnd();
+    marked_ = false;
+  };
   text1.onLostFocus = [this] { frmDESIGN_text1_LostFocus(); };
 }
 
 void frmDESIGN::wireCells() {
   itemin.labelledBy = &Label3;
+  itemin.onGotFocus = [this] { marked_ = isWholeMarked(itemin); };
   itemin.onKeyDown = [this](KeyEvent& key) { frmDESIGN_itemin_KeyDown(key); };
   itemin.onKeyPress = [this](CharEvent& event) { frmDESIGN_itemin_KeyPress(event); };
   itemin.onChange = [this] { frmDESIGN_itemin_Change(); };
@@ -164,11 +172,19 @@ void frmDESIGN::frmDESIGN_box_Change(RichTextBox& box, Text& previous) {
     previous = before;
     moving_ = false;
   }
+  sayChange(box, previous);
+}
+
+// A text in the place of the whole old one is heard as it is, not as what differs.
+void frmDESIGN::sayChange(const RichTextBox& box, Text& previous) {
+  if (marked_ && !box.content().empty()) previous.clear();
+  marked_ = false;
   talkRichChange(box, previous);
 }
 
 // These boxes hold one line: Return goes on to the next control.
 void frmDESIGN::frmDESIGN_box_KeyDown(RichTextBox& box, KeyEvent& key) {
+  marked_ = isWholeMarked(box);
   if (key.code != key::Enter) return;
   key.swallow();
   if (&box == &text3) return itemin.setFocus();

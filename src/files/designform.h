@@ -56,6 +56,8 @@ class frmDESIGN : public Form {
 
   void frmDESIGN_Activate();
   void frmDESIGN_box_Change(RichTextBox& box, Text& previous);
+  void sayChange(const RichTextBox& box, Text& previous);
+  static bool isWholeMarked(const TextBox& box);
   void frmDESIGN_box_KeyDown(RichTextBox& box, KeyEvent& key);
   void frmDESIGN_text1_LostFocus();
   void frmDESIGN_itemin_KeyDown(KeyEvent& key);
@@ -114,7 +116,7 @@ class frmDESIGN : public Form {
   bool changesTable_ = false;                        // the design of the open table is being changed
   bool opened_ = false;                              // the opening sentence is said
   bool overwrite_ = false;                           // typing replaces the character at the caret
-  bool marked_ = false;                              // the whole text of the cell is marked: what is typed replaces it
+  bool marked_ = false;                              // the whole text of the box is marked: what is typed replaces it
   bool moving_ = false;                              // the program moves the cell of the grid or fills a box
 };
 
