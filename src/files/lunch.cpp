@@ -241,7 +241,10 @@ void FrmLunch::FrmLunch_Command1_Click() {
     return;
   }
   screen().unload(*this);
-  form<Form1>().show();
+  {
+    const Silence silence;  // there is no cell yet that could be told
+    form<Form1>().show();
+  }
   runCommand(u"mnuNEW");
 }
 

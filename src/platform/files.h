@@ -84,6 +84,8 @@ FileError copyFile(TextView from, TextView to);
 // alreadyExists where something of that name stands, pathNotFound where the folder above is missing.
 // Gives `from` the name of `to` and its permissions, in one step: at every moment `to` is the old file or the new one.
 FileError replaceFile(TextView from, TextView to);
+// The file ends behind `length` bytes: what was written behind them is taken back.
+FileError cutFile(TextView path, std::int64_t length);
 FileError makeDirectory(TextView path);
 
 // The read-only attribute is the owner's write permission bit, read from the mode, not tried. What is missing is not
