@@ -55,12 +55,18 @@ int firstRowWithoutFormula() {
   return kFirstFreeRow + static_cast<int>(blank - formulaSlot.begin());
 }
 
+// The value is heard behind the sentence of a dialog that has just closed.
+void fillHeard(TextView text) {
+  if (talkMode != 0) waitSec(talkGap);
+  fillInputBox(text);
+}
+
 // A value that does not fit: cut to the width of the item to the left, and marked.
 void offerCut(const Text& digits) {
   if (!askYesNo(u"計算結果は規定の表示巾を越しています\r" + digits, u"表示巾超過")) return emptyInputBox();
   if (curItem < 1) throw Fault{kSubscript};
   const int width = itemWidth[static_cast<std::size_t>(curItem - 1)];
-  fillInputBox(fromSjis(toSjis(digits).substr(0, static_cast<std::size_t>(std::max(width, 0)))) + u"%");
+  fillHeard(fromSjis(toSjis(digits).substr(0, static_cast<std::size_t>(std::max(width, 0)))) + u"%");
 }
 
 void registerKeyFormulas() {
@@ -81,7 +87,7 @@ void formulaKey(int code) {
   const Text digits = trimmed(str(*value));
   const int width = itemWidth[static_cast<std::size_t>(curItem)];
   if (static_cast<int>(sjisLength(digits)) > width - 1) return offerCut(digits);
-  fillInputBox(digits);
+  fillHeard(digits);
 }
 
 frmFOMULA::frmFOMULA() : Form(kName, u"式値入力登録画面") {
