@@ -46,8 +46,6 @@ void leaveFullCell(Form1& main) {
 
 // One typed or erased character is named, a longer run is said as text.
 Text echoOf(const Text& text) {
-  if (const Text typed = typedOver(lastInput, text); !typed.empty())
-    return (typed.size() == 1 ? charName(typed) : typed) + bytesLeft(text);
   Text words = diffTalk(lastInput, text);
   int longer = static_cast<int>(text.size()) - lastInputLen;
   if (words.empty() || (longer != 1 && longer != -1)) return words;

@@ -5,7 +5,6 @@
 
 #include "platform/fault.h"
 #include "platform/files.h"
-#include "platform/host.h"
 #include "store/cursor.h"
 #include "store/mainform.h"
 #include "store/notice.h"
@@ -32,20 +31,15 @@ std::int32_t countOf(int file) {
 }
 
 void tellRefusedWrite(FileError error, int file, std::int32_t record, const CacheRow& bytes) {
-  const bool locked = error == FileError::pathAccess;
-  if (locked && !readOnlyMarkShown()) {
-    told = {file, record, bytes};
+  if (error == FileError::pathAccess) {
+    if (readOnlyMarkShown()) return;
     showReadOnlyMark(true);
     tellReadOnly();
     return;
   }
   if (told.file == file && told.record == record && told.bytes == bytes) return;
   told = {file, record, bytes};
-  // The mark can't be heard: what is refused behind it beeps, or it would be lost in silence.
-  if (locked)
-    host().beep();
-  else
-    tellWriteError();
+  tellWriteError();
 }
 
 // The index of the record's row in the cache; 0 where it isn't there.
