@@ -1,10 +1,7 @@
 // The program: on the desktop, or a script without a screen.
-#include <unistd.h>
-
-#include <cstdlib>
+#include <csignal>
 #include <filesystem>
 #include <iostream>
-#include <memory>
 #include <system_error>
 
 #include "app/commandline.h"
@@ -45,6 +42,7 @@ int replay(const CommandLine& line) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  std::signal(SIGXFSZ, SIG_IGN);  // a full disk is told to the user, it does not end the program
   const CommandLine line = readCommandLine({argv + 1, argv + argc});
   switch (line.action) {
     case CommandLine::Action::wrong:

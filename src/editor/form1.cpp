@@ -51,6 +51,8 @@ void Form1::wireBoxes() {
   txtItemnum.onChange = [this] { txtItemnum_Change(); };
   txtItemnum.onKeyPress = [this](CharEvent& event) { txtItemnum_KeyPress(event); };
   txtItemnum.onLostFocus = [this] { txtItemnum_LostFocus(); };
+  for (TextBox* box : {&txtREC, &txtItemnum, &txtLR}) box->onGotFocus = [box] { selectWhole(*box); };
+  txtLR.onChange = [this] { txtLR_Change(); };
   txtLR.onLostFocus = [this] { txtLR_LostFocus(); };
   RichTextBox1.onChange = [this] { RichTextBox1_Change(); };
   RichTextBox1.onLostFocus = [this] { RichTextBox1_LostFocus(); };
@@ -113,9 +115,14 @@ void Form1::narrate() {
 }
 
 void Form1::Form_KeyDown(KeyEvent& event) {
-  if (!event.is(key::letter('R'), shift::Ctrl)) return;
+  if (event.is(key::letter('R'), shift::Ctrl)) {
+    talkAgain();
+  } else if (event.is(key::Esc, shift::None) && !txtinputbox.hasFocus()) {
+    txtinputbox.setFocus();  // the way back from every other box
+  } else {
+    return;
+  }
   event.swallow();
-  talkAgain();
 }
 
 void Form1::Form_Unload() {

@@ -68,6 +68,7 @@ class FrmLunch : public Form {
   void FrmLunch_Check2_LostFocus();
 
   int ticks_ = 0;
+  bool switching_ = false;  // a key ticks the box and says the level itself
 };
 
 // Copies the sample board over the one in use, ignoring any error.
