@@ -116,6 +116,7 @@ TEST_CASE_FIXTURE(EditorFixture, "a refused write is told once, and the cursor g
   Heard first = play({"commit z", "Down", "Enter"});
   CHECK(first.at(1) == "beep");
   CHECK(first.at(2).starts_with("say 書き込み禁止ﾌｧｲﾙです。"));
+  CHECK(first.back() == "say x");
   CHECK(curRec == 2);
   CHECK(mainForm().Label1.visible());
   CHECK(play({"commit z", "Down"}) == Heard{"say ｾﾞｯﾄ ざん5バイト", "say y"});
