@@ -1,5 +1,7 @@
 #include "files/lunch.h"
 
+#include <utility>
+
 #include "editor/commands.h"
 #include "editor/form1.h"
 #include "editor/speechmenu.h"
@@ -23,7 +25,8 @@ namespace zelko {
 namespace {
 
 constexpr Colour kWhite = 0xFFFFFF;
-constexpr int kTick = 1000;  // milliseconds
+// Milliseconds. Off the whole second: keys that come once a second would all meet the gate shut by a tick.
+constexpr int kTick = 700;
 
 constexpr const char16_t* kOpeningText =
     u"Zelkoは､1行254文字を任意項目に区切り､項目単位にﾃｷｽﾄﾃﾞｰﾀを管理､編集します｡"
@@ -256,6 +259,7 @@ void FrmLunch::FrmLunch_Command3_Click() {
 
 void FrmLunch::FrmLunch_Check2_Click() {
   talkMode = Check2.value() == 1 ? 2 : 0;
+  clipOwed_ = talkMode == 0;
   showSpeechState();
   if (gateOpens()) talkNow(composed(this, u"ﾁｪｯｸﾎﾞｯｸｽ"));
 }
@@ -263,6 +267,8 @@ void FrmLunch::FrmLunch_Check2_Click() {
 void FrmLunch::FrmLunch_Check2_LostFocus() {
   if (talkMode != 0) return;
   Text4.setVisible(false);
+  // A program that has been silent all along owes nothing: what stands there may be newer than what it set aside.
+  if (!std::exchange(clipOwed_, false)) return;
   if (agentOn == 1)
     form<frmAGENT>().Text1.setText(userClip);
   else if (host().clearClipboard())
