@@ -41,6 +41,9 @@ void Form1::wireInputBox() {
 }
 
 void Form1::wireBoxes() {
+  // What is typed into these takes the place of what they show.
+  for (TextBox* box : {&txtREC, &txtItemnum, &txtLR})
+    box->onGotFocus = [box] { box->setSelection(0, static_cast<int>(box->text().size())); };
   txtREC.onChange = [this] { txtREC_Change(); };
   txtREC.onKeyPress = [this](CharEvent& event) { txtREC_KeyPress(event); };
   txtREC.onLostFocus = [this] { txtREC_LostFocus(); };

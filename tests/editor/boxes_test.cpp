@@ -30,14 +30,14 @@ TEST_CASE_FIXTURE(EditorFixture, "numbers typed into the number boxes jump, or a
   };
   const std::string back = "say ギョウ1/項目0/1､データ入力ﾃｷｽﾄﾎﾞｯｸｽ";
   const std::vector<Row> rows = {
-      {{"focus txtREC", "Delete", "type 3", "Enter"},
+      {{"focus txtREC", "type 3", "Enter"},
        {"say 1､記録番号 ﾃｷｽﾄﾎﾞｯｸｽ", "say 3", "say ギョウ3/項目0/3､データ入力ﾃｷｽﾄﾎﾞｯｸｽ"},
        {3, 0}},
       {{"focus txtREC", "Delete", "type 4", "Enter"}, {"say 1､記録番号 ﾃｷｽﾄﾎﾞｯｸｽ", "say 4", "beep", back}, {1, 0}},
       {{"focus txtREC", "Delete", "Enter"}, {"say 1､記録番号 ﾃｷｽﾄﾎﾞｯｸｽ", "beep", back}, {1, 0}},
       {{"focus txtREC", "Delete", "type 0", "Enter"}, {"say 1､記録番号 ﾃｷｽﾄﾎﾞｯｸｽ", "say 0", "beep", back}, {1, 0}},
-      {{"focus txtREC", "type 9", "focus txtinputbox"}, {"say 1､記録番号 ﾃｷｽﾄﾎﾞｯｸｽ", "say 91", back}, {1, 0}},
-      {{"focus txtItemnum", "Delete", "type 2", "Enter"},
+      {{"focus txtREC", "End", "type 9", "focus txtinputbox"}, {"say 1､記録番号 ﾃｷｽﾄﾎﾞｯｸｽ", "say 19", back}, {1, 0}},
+      {{"focus txtItemnum", "type 2", "Enter"},
        {"say 0､項目番号ﾃｷｽﾄﾎﾞｯｸｽ", "say 2", "say ギョウ1/項目2/80､データ入力ﾃｷｽﾄﾎﾞｯｸｽ"},
        {1, 2}},
       {{"focus txtItemnum", "Delete", "type 3"}, {"say 0､項目番号ﾃｷｽﾄﾎﾞｯｸｽ", "beep", back}, {1, 0}},
@@ -95,7 +95,7 @@ TEST_CASE_FIXTURE(EditorFixture, "a comma or a line end in name or memo is refus
 
 TEST_CASE_FIXTURE(EditorFixture, "another alignment letter moves the cells of the item in every record") {
   open(kItems, kRecords, 1);
-  play({"Right", "focus txtLR", "Delete", "type r", "focus txtinputbox"});
+  play({"Right", "focus txtLR", "type r", "focus txtinputbox"});
   CHECK(record(1) == "1    山田 80");
   CHECK(record(2) == "2       x  7");
   CHECK(file("Kt.txt").find(toSjis(u"1001 '氏名,R")) != std::string::npos);
