@@ -1,8 +1,10 @@
 #include "app/wiring.h"
 
 #include "editor/registereditor.h"
+#include "files/design.h"
 #include "files/disk.h"
 #include "files/help.h"
+#include "files/hozon.h"
 #include "files/lunch.h"
 #include "voice/dialogs.h"
 #include "voice/narration.h"
@@ -15,6 +17,8 @@ void wireProgram() {
   registerLunch();
   registerFilePicker();
   registerHelp();
+  registerTableDesign();
+  registerOutputFiles();
   narrateMenus();
 }
 

@@ -80,11 +80,13 @@ void registerCellCommands() {
   registerCommand(u"mnuITEMDEL", [] { showOK(kHowToDelete, u"項目の削除の仕方"); });
   registerCommand(u"mnuITEMMOVE", [] { showOK(kHowToMove, u"項目の移動の仕方"); });
   registerListCaller(84, [](int item) {
-    Form1& main = form<Form1>();
+    MoveScope moving;
+    commitBox();
     curItem = static_cast<std::int16_t>(item);
-    dispAll(curItem);
     showCell(static_cast<float>(curRec), curItem, {}, {});
-    main.txtinputbox.setFocus();
+    dispAll(curItem);
+    focusInputBox();
+    announceCell();  // also where the cursor stood there already
   });
 }
 
@@ -99,10 +101,6 @@ void wireLabels(Form1& main) {
   main.Label8.onClick = serves(u"mnuLIMIT");
   main.Label9.onClick = serves(u"mnuRL");
   main.lblWIDTH.onClick = serves(u"mnuFLN");
-  main.Command3.onClick = [] {
-    listCaller = 84;
-    runCommand(u"mnuItemList");
-  };
 }
 
 }  // namespace zelko

@@ -34,8 +34,10 @@ void setInputSilently(TextView text) {
 
 void emptyInputBox() { setInputSilently(u""); }
 
+// Emptied first: the text is heard whole, not as a change of what stood there, and again when it is the same.
 void fillInputBox(TextView text) {
   Form1& main = form<Form1>();
+  emptyInputBox();
   Form1::Filling filling(main);
   main.txtinputbox.setText(text);
 }

@@ -18,6 +18,7 @@
 #include "store/cursor.h"
 #include "store/itemfile.h"
 #include "store/records.h"
+#include "voice/cells.h"
 #include "voice/dialogs.h"
 #include "voice/talk.h"
 
@@ -192,31 +193,20 @@ bool isSumKey(const KeyEvent& key) {
   return key.mask == shift::Ctrl && key.code >= key::Num0 && key.code <= key::Num0 + 9;
 }
 
-// Keypad 0 wants a single record across several items, keypad 1 a single item across several records.
-bool sumFitsRange(int code) {
-  const bool oneRecord = rangeRec1 == rangeRec2, oneItem = rangeItem1 == rangeItem2;
-  if (code == key::Num0) return oneRecord && !oneItem;
-  if (code == key::Num0 + 1) return oneItem && !oneRecord;
-  return true;
-}
-
 void sumKeyDown(int code) {
   if (rangeKind == 0) {
     sumKey(code);
     return;
   }
-  if (!sumFitsRange(code)) {
-    host().beep();
-    return;
-  }
-  sumKeyOnRange(code);
-  dropRangeAndShow();
+  sumOnFinishedRange(code);
 }
 
 void escape(bool rangeDropped) {
   if (!box().content().empty()) {
     box().setText({});  // heard as an edit
-  } else if (!rangeDropped) {
+  } else if (rangeDropped) {
+    announceCell();  // the range went in silence
+  } else {
     askToLeave();
   }
   dropRange();

@@ -41,15 +41,14 @@ void Form1::wireInputBox() {
 }
 
 void Form1::wireBoxes() {
-  // What is typed into these takes the place of what they show.
-  for (TextBox* box : {&txtREC, &txtItemnum, &txtLR})
-    box->onGotFocus = [box] { box->setSelection(0, static_cast<int>(box->text().size())); };
   txtREC.onChange = [this] { txtREC_Change(); };
   txtREC.onKeyPress = [this](CharEvent& event) { txtREC_KeyPress(event); };
   txtREC.onLostFocus = [this] { txtREC_LostFocus(); };
   txtItemnum.onChange = [this] { txtItemnum_Change(); };
   txtItemnum.onKeyPress = [this](CharEvent& event) { txtItemnum_KeyPress(event); };
   txtItemnum.onLostFocus = [this] { txtItemnum_LostFocus(); };
+  for (TextBox* box : {&txtREC, &txtItemnum, &txtLR}) box->onGotFocus = [box] { selectWhole(*box); };
+  txtLR.onChange = [this] { txtLR_Change(); };
   txtLR.onLostFocus = [this] { txtLR_LostFocus(); };
   RichTextBox1.onChange = [this] { RichTextBox1_Change(); };
   RichTextBox1.onLostFocus = [this] { RichTextBox1_LostFocus(); };
@@ -105,9 +104,14 @@ void Form1::narrate() {
 }
 
 void Form1::Form_KeyDown(KeyEvent& event) {
-  if (!event.is(key::letter('R'), shift::Ctrl)) return;
+  if (event.is(key::letter('R'), shift::Ctrl)) {
+    talkAgain();
+  } else if (event.is(key::Esc, shift::None) && !txtinputbox.hasFocus()) {
+    txtinputbox.setFocus();  // the way back from every other box
+  } else {
+    return;
+  }
   event.swallow();
-  talkAgain();
 }
 
 void Form1::Form_Unload() {

@@ -89,7 +89,9 @@ class Form1 : public Form {
   void txtItemnum_Change();
   void txtItemnum_KeyPress(CharEvent& event);
   void txtItemnum_LostFocus();
+  void txtLR_Change();
   void txtLR_LostFocus();
+  static void selectWhole(TextBox& box);
   void announceChange(const TextBox& box);
   void RichTextBox1_Change();
   void RichTextBox1_LostFocus();

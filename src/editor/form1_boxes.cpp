@@ -61,9 +61,16 @@ void storeText(const Text& typed, Text& kept) {
 void Form1::announceChange(const TextBox& box) {
   if (isFilling()) {
     if (held_ == 0) announceCell();
-  } else if (!box.content().empty()) {
-    talkGated(box.content());
+  } else {
+    talkGated(box.content().empty() ? Text(u"ブランク") : box.content());
   }
+}
+
+// Whoever comes to a box of one value wants to write another one.
+void Form1::selectWhole(TextBox& box) { box.setSelection(0, static_cast<int>(box.content().size())); }
+
+void Form1::txtLR_Change() {
+  if (!isFilling()) announceChange(txtLR);
 }
 
 void Form1::txtREC_Change() { announceChange(txtREC); }

@@ -1,12 +1,17 @@
+#include <cmath>
+#include <limits>
+
 #include "editor/form1.h"
 #include "editor/moves.h"
 #include "editor/state.h"
 #include "editor/utilities.h"
+#include "platform/host.h"
 #include "platform/number.h"
 #include "platform/width.h"
 #include "store/cursor.h"
 #include "store/table.h"
 #include "voice/dialogs.h"
+#include "voice/talk.h"
 
 namespace zelko {
 
@@ -18,17 +23,25 @@ void idAuto() {
   if (autoIdOn == 0) {
     autoIdOn = 1;
     const Text answer = talkAsk(u"ＩＤ項目は自動更新されます。初期値を入れて下さい。", u"ID番号の初期値", u"1");
-    if (answer.empty()) {
+    const double first = answer.empty() ? 0 : val(toHalfWidth(answer));
+    const bool holdable = std::fabs(first) <= std::numeric_limits<float>::max();
+    if (answer.empty() || !holdable) {
       autoIdOn = 0;
+      if (!holdable) host().beep();
       return;
     }
-    autoIdValue = static_cast<float>(val(toHalfWidth(answer)));
+    autoIdValue = static_cast<float>(first);
     stampId();
   } else {
     autoIdOn = 0;
   }
   showCell(static_cast<float>(curRec), curItem, {}, {});
   dispAll(curItem);
+  const Form1& main = form<Form1>();
+  if (autoIdOn == 1)
+    talkBehindDialog(main.Label4.caption() + main.Label13.caption());
+  else
+    talkGated(u"ＩＤ項目の自動更新を解除しました。");
 }
 
 }  // namespace zelko

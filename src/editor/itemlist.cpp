@@ -58,15 +58,21 @@ frmItemList::frmItemList() : Form(kName, u"項目一覧") {
   List1.onClick = [this] {
     if (List1.listIndex() >= 0 && gateOpens()) talkNow(List1.text() + markPause + u"ｺｳﾓｸﾘｽﾄﾎﾞｯｸｽ");
   };
-  Narration(*this).explain(entry).say(List1, entry).say(Command1, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ").say(Command2, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ");
+  Narration(*this).explain(entry).say(List1, entry, true).say(Command1, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ").say(Command2, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ");
 }
 
 void frmItemList::frmItemList_Command2_Click() {
   const int item = chosen();
   const auto caller = listCallers().find(listCaller);
+  const bool taken = item >= 0 && caller != listCallers().end();
   listCaller = 0;
-  screen().unload(*this);
-  if (item >= 0 && caller != listCallers().end()) caller->second(item);
+  if (!taken) return screen().unload(*this);
+  {
+    // What the caller does with the item is heard, not where the focus was before.
+    const Silence silence;
+    screen().unload(*this);
+  }
+  caller->second(item);
 }
 
 Text itemListRow(int item, TextView name, TextView alignment, int width) {
@@ -96,7 +102,10 @@ void registerListCaller(int code, std::function<void(int item)> fill) { listCall
 
 void registerItemList() {
   registerForm<frmItemList>();
-  registerCommand(u"mnuItemList", showItemList);
+  registerCommand(u"mnuItemList", [] {
+    listCaller = 84;
+    showItemList();
+  });
 }
 
 }  // namespace zelko

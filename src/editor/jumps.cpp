@@ -9,6 +9,7 @@
 #include "editor/state.h"
 #include "platform/host.h"
 #include "platform/number.h"
+#include "platform/width.h"
 #include "store/cursor.h"
 #include "store/records.h"
 #include "voice/dialogs.h"
@@ -73,7 +74,7 @@ void goToNextRecordStart() {
 }
 
 int targetOf(TextView answer, int from, int lowest, int highest) {
-  const Text text = trimmed(answer);
+  const Text text = trimmed(toHalfWidth(answer));
   const bool relative = text.starts_with(u'+') || text.starts_with(u'-');
   const double wanted = std::nearbyint(val(text)) + (relative ? from : 0);
   return static_cast<int>(std::clamp<double>(wanted, lowest, std::max(lowest, highest)));
@@ -84,6 +85,7 @@ void askRecord() {
       talkAsk(u"第何記録に飛びますか？（なお、＋－付きで数値を指定すると、今の記録からの相対指定になります",
               u"指定記録へ移動", {});
   if (trimmed(answer).empty()) return;
+  waitBehindDialog();
   MoveScope moving;
   commitBox();
   goTo(targetOf(answer, curRec, 1, recCount()), curItem);
@@ -94,6 +96,7 @@ void askItem() {
       talkAsk(u"第何項目に飛びますか？（なお、＋－付きで数値を指定すると、今の項目からの相対指定になります",
               u"指定項目へ移動", {});
   if (trimmed(answer).empty()) return;
+  waitBehindDialog();
   MoveScope moving;
   commitBox();
   goToItem(static_cast<std::int16_t>(targetOf(answer, curItem, 0, itemCount)));

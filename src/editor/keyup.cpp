@@ -6,7 +6,6 @@
 #include "editor/spitem.h"
 #include "editor/state.h"
 #include "platform/number.h"
-#include "platform/sjis.h"
 #include "store/cursor.h"
 #include "store/itemfile.h"
 #include "store/records.h"
@@ -21,15 +20,11 @@ namespace {
 const Form1& main() { return form<Form1>(); }
 const Text& boxText() { return main().txtinputbox.content(); }
 
-Text bytesLeft() {
-  const auto used = static_cast<std::int64_t>(sjisLength(boxText()));
-  return u" ざん" + decimal(itemWidth[static_cast<std::size_t>(curItem)] - used) + u"バイト";
-}
-
 Text inputState() {
   if (boxText().empty())
-    return u"ｲﾏ ﾆｭｳﾘｮｸﾎﾞｯｸｽﾆﾜ ｹﾞﾝｺｳｶﾞｱﾘﾏｾﾝ。CRﾀﾞｹｦﾀﾀｸﾄ ｷｿﾞﾝﾃﾞｰﾀﾜ ｶｷｶﾜﾗﾅｲﾃﾞ、ｼﾞｺｳﾓｸﾆ ｶｷｺﾐｺｳﾓｸｶﾞ ｲﾄﾞｳｼﾏｽ" + bytesLeft();
-  Text sentence = boxText() + bytesLeft();
+    return u"ｲﾏ ﾆｭｳﾘｮｸﾎﾞｯｸｽﾆﾜ ｹﾞﾝｺｳｶﾞｱﾘﾏｾﾝ。CRﾀﾞｹｦﾀﾀｸﾄ ｷｿﾞﾝﾃﾞｰﾀﾜ ｶｷｶﾜﾗﾅｲﾃﾞ、ｼﾞｺｳﾓｸﾆ ｶｷｺﾐｺｳﾓｸｶﾞ ｲﾄﾞｳｼﾏｽ" +
+           bytesLeft(boxText());
+  Text sentence = boxText() + bytesLeft(boxText());
   if (main().txtinputbox.selLength() > 0) sentence += u"ﾆｭｳﾘｮｸﾎﾞｯｸｽﾅｲｹﾞﾝｺｳｦ ﾖﾐｱｹﾞﾏｼﾀ､ｵﾄｺｺﾞｴﾜ ｾﾝﾀｸｻﾚﾀ ﾃｷｽﾄﾌﾞﾃﾞｽ";
   return sentence;
 }
@@ -77,10 +72,10 @@ constexpr Question kQuestions[] = {
     {key::PageUp, shift::ShiftCtrl, fileReport},   {'G', shift::Alt, alwaysDisplayed},
 };
 
-// A single blank that the key which restored a limit left behind.
+// The blanks that the key which restored a limit, and the one that had put it aside, left behind.
 void clearLimitBlank() {
   Form1& form1 = form<Form1>();
-  if (inputLimit == 0 || form1.txtinputbox.content() != u" ") return;
+  if (inputLimit == 0 || !trimmed(boxText()).empty()) return;
   Silence silence;
   form1.txtinputbox.setText({});
 }
@@ -101,6 +96,7 @@ bool caretKey(const KeyEvent& key) {
     return true;
   }
   if (key.code == key::Shift && (key.mask & ~shift::Shift) == 0) {
+    if (rangeKind != 0) return true;  // it is being read
     talkGated(trimmed(boxText()).empty() ? Text(u"ブランク") : boxText());
     return true;
   }

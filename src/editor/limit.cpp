@@ -28,13 +28,18 @@ void clearLimit() {
   limitLabel().setCaption(u"入力字数制限:項目幅");
 }
 
+void sayLimit() { talkBehindDialog(limitLabel().caption()); }
+
 }  // namespace
 
 Text limitCaption() { return inputLimit == 0 ? Text(u"字数制限:項目幅") : u"制限字数:" + decimal(inputLimit); }
 
 void setLimit() {
   if (inputLimit != 0) {
-    if (askYesNo(u"入力文字数を項目幅とします", u"データ入力字数制限")) clearLimit();
+    if (askYesNo(u"入力文字数を項目幅とします", u"データ入力字数制限")) {
+      clearLimit();
+      sayLimit();
+    }
     return;
   }
   for (;;) {
@@ -49,6 +54,7 @@ void setLimit() {
       inputLimit = toInt16(wanted);
       limitAside = 0;
       showLimit();
+      sayLimit();
       return;
     }
     host().beep();

@@ -12,4 +12,12 @@ bool finishedRangeKey(const KeyEvent& key);
 // Mask hidden, range variables 0, the cell shown again with an empty box that has the focus.
 void dropRangeAndShow();
 
+// Whether the digit of the keypad can work on the held range: 0 wants a single record across several items, 1 a single
+// item across several records.
+bool sumFitsRange(int code);
+// The row and the column sum, which read the range; the other digits work at the cursor.
+bool isPlainSum(int code);
+// The digit on a finished range, which is dropped; a beep where it does not fit.
+void sumOnFinishedRange(int code);
+
 }  // namespace zelko

@@ -1,28 +1,13 @@
 #include "editor/realign.h"
 
-#include <utility>
-
 #include "editor/moves.h"
 #include "store/cursor.h"
-#include "store/itemfile.h"
 #include "store/notice.h"
 #include "store/records.h"
+#include "store/rewrite.h"
+#include "store/table.h"
 
 namespace zelko {
-namespace {
-
-constexpr int kDataFile = 1;
-
-bool realignRecord(std::int32_t record, std::size_t start, std::size_t width, TextView letter) {
-  CacheRow row;
-  if (!getRec(kDataFile, record, row)) return true;
-  std::string bytes(row.data(), row.size());
-  std::string cell = bytes.substr(start, width);
-  std::string moved = alignedCell(cell, letter);
-  return moved == cell || putRec(kDataFile, record, bytes.replace(start, width, moved));
-}
-
-}  // namespace
 
 Text alignmentLetter(TextView typed) {
   Text letter = upperCase(trimmed(typed));
@@ -33,29 +18,14 @@ Text alignmentLetter(TextView typed) {
   return letter;
 }
 
-std::string alignedCell(std::string_view cell, TextView letter) {
-  std::size_t first = cell.find_first_not_of(' ');
-  if (first == std::string_view::npos) return std::string(cell);
-  std::string text(cell.substr(first, cell.find_last_not_of(' ') - first + 1));
-  std::string blanks(cell.size() - text.size(), ' ');
-  return letter == u"R" ? blanks + text : text + blanks;
-}
-
 void realignItem(std::int16_t item, TextView letter) {
-  auto i = static_cast<std::size_t>(item);
-  Text before = std::exchange(itemLR[i], Text(letter));
-  if (!writeKFile(docPath, docDrive)) {
-    itemLR[i] = before;
-    return tellWriteError();
-  }
   flushRec();
-  auto start = static_cast<std::size_t>(itemStart[i] - 1);
-  auto width = std::min(static_cast<std::size_t>(itemWidth[i]),
-                        std::size_t{kDataBytes} - std::min(start, std::size_t{kDataBytes}));
-  std::int32_t count = recCount();
-  for (std::int32_t record = 1; record <= count; ++record) {
-    if (!realignRecord(record, start, width, letter)) break;
-  }
+  const auto i = static_cast<std::size_t>(item);
+  std::vector<ItemLine> items = itemsOnDisk();
+  items[i].alignment = letter;
+  const RewritePlan plan{{{1, recCount()}}, {realigned(items, item, letter)}};
+  const RewriteEnd end = rewriteTable(plan, &items, [](std::int64_t) { return true; });
+  if (end == RewriteEnd::failed) tellWriteError();
   loadCache(curRec);
   dispAll(curItem);
   showCell(static_cast<float>(curRec), curItem, u"", u"");

@@ -61,7 +61,10 @@ void askInhibitTime() {
 
 void readSpItemToo() {
   spItemIsRead = !spItemIsRead;
-  form<Form1>().menu().setChecked(u"mnuJY", spItemIsRead);
+  Menu& menu = form<Form1>().menu();
+  menu.setChecked(u"mnuJY", spItemIsRead);
+  talkGated(Text(spItemIsRead ? u"チェック" : u"ノーチェック") + markPause +
+            menu.find(u"mnuJY")->captionWithoutMarks());
 }
 
 }  // namespace

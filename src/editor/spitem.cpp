@@ -1,6 +1,7 @@
 #include "editor/spitem.h"
 
 #include "editor/commands.h"
+#include "editor/form1.h"
 #include "editor/moves.h"
 #include "platform/host.h"
 #include "platform/number.h"
@@ -15,6 +16,11 @@ namespace zelko {
 
 frmSPITEM::frmSPITEM() : Form(kName, u"特定項目の表示") {
   onUnload = [] { spItem = kNoItem; };
+  onKeyDown = [](KeyEvent& key) {
+    if (!key.is(key::Esc, shift::None)) return;
+    key.swallow();
+    form<Form1>().activate();
+  };
   Narration(*this).explain([this] { return markStop + Label1.caption(); });
 }
 
@@ -33,7 +39,8 @@ void refreshSpItem() {
 }
 
 void switchSpItem() {
-  if (spItem != kNoItem) {
+  const bool wasSet = spItem != kNoItem;
+  if (wasSet) {
     spItem = kNoItem;
     unload<frmSPITEM>();
   } else {
@@ -53,6 +60,10 @@ void switchSpItem() {
   }
   showCell(static_cast<float>(curRec), curItem, {}, {});
   dispAll(curItem);
+  if (wasSet)
+    talkGated(u"常時表示項目はありません" + markStop);
+  else
+    talkBehindDialog(spItemCaption() + markStop + spItemCell());
 }
 
 void registerSpItem() {

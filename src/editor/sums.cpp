@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "editor/commands.h"
+#include "editor/fomula.h"
 #include "editor/moves.h"
 #include "editor/state.h"
 #include "editor/utilities.h"
@@ -103,6 +104,7 @@ void sumKey(int code) {
   if (code == key::Num0) return rowSum();
   if (code == key::Num0 + 1) return columnSum();
   if (code == key::Num0 + 2) return runCommand(u"mnuHENSA");
+  if (code > key::Num0 + 2 && code <= key::Num0 + 9) return formulaKey(code);
   host().beep();
 }
 

@@ -30,6 +30,9 @@ void hideForm(Form* form) {
 
 void enterEditor() {
   Form1& main = form<Form1>();
+  // A block of another table is none of this one.
+  hideRangeMask();
+  dropRange();
   forgetShownCell(main);
   main.Label8.setCaption(inputLimit == 0 ? Text(u"字数制限:項目幅") : u"制限字数:" + decimal(inputLimit));
   showTitle();

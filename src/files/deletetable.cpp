@@ -8,7 +8,6 @@
 #include "store/notice.h"
 #include "store/table.h"
 #include "voice/dialogs.h"
-#include "voice/talk.h"
 
 namespace zelko {
 
@@ -26,10 +25,7 @@ bool refused(TextView file) {
   return false;
 }
 
-void sayDeleted(TextView file) {
-  if (talkMode != 0) waitSec(talkGap);
-  talkGated(nameIn(file) + u"を削除しました");
-}
+void sayDeleted(TextView file) { talkBehindDialog(nameIn(file) + u"を削除しました"); }
 
 bool removeTold(TextView file) {
   const FileError error = deleteFile(file);

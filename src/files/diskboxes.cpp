@@ -3,6 +3,7 @@
 #include "files/pickerwords.h"
 #include "platform/form.h"
 #include "store/notice.h"
+#include "store/recovery.h"
 #include "voice/talk.h"
 
 namespace zelko {
@@ -63,6 +64,8 @@ void DiskBoxes::openMarkedFolder() {
 }
 
 void DiskBoxes::folderOpened() {
+  // A table that an interrupted rewrite left without its name would not be in the list.
+  if (following_ == 0) offerRecovery(pathIn(folders_.path(), u""));
   files_.setPath(folders_.path());
   ++following_;
   drives_.setDrive(folders_.path());

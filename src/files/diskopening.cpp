@@ -2,6 +2,7 @@
 
 #include "editor/entryitems.h"
 #include "editor/form1.h"
+#include "editor/moves.h"
 #include "editor/spitem.h"
 #include "editor/state.h"
 #include "editor/view.h"
@@ -21,16 +22,6 @@ namespace {
 
 constexpr int kDataFile = 1;
 
-// What belongs to the items and records of one table alone.
-void forgetOldTable() {
-  dropRange();
-  autoIdOn = 0;
-  allItemsOn = 1;
-  form<Form1>().Label11.setCaption(entryItemsCaption());
-  unload<frmSPITEM>();
-  spItem = kNoItem;
-}
-
 }  // namespace
 
 void storeEditedTable() {
@@ -39,9 +30,24 @@ void storeEditedTable() {
   flushRec();
 }
 
+void storeTypedCell() {
+  if (docPath.empty() || !isOpen(kDataFile)) return;
+  commitBox();
+  storeEditedTable();
+}
+
 void keepEditedTableOpen() {
   if (docPath.empty() || isOpen(kDataFile) || reopenData()) return;
   tellFailure(u"編集中のﾌｧｲﾙが開けません。もう一度確認してください", u"編集中のﾌｧｲﾙ");
+}
+
+void forgetOldTable() {
+  dropRange();
+  autoIdOn = 0;
+  allItemsOn = 1;
+  form<Form1>().Label11.setCaption(entryItemsCaption());
+  unload<frmSPITEM>();
+  spItem = kNoItem;
 }
 
 bool openInPlace(TextView dataFile) {

@@ -11,6 +11,10 @@ class Form;
 void storeEditedTable();
 // Opens the table of that data file in place of the open one. False after a message; the old table is open again then.
 bool openInPlace(TextView dataFile);
+// The same, with what stands in the input box put into its cell first.
+void storeTypedCell();
+// Drops what belongs to the items and records of one table alone: range, numbering, entry items, always-displayed item.
+void forgetOldTable();
 // Opens the data file of the table in edit again where a failure has closed it; tells when that can't be done.
 void keepEditedTableOpen();
 // Unloads the picker and enters the editor on the table that was opened.

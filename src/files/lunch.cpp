@@ -14,6 +14,7 @@
 #include "platform/host.h"
 #include "store/cursor.h"
 #include "store/itemfile.h"
+#include "store/recovery.h"
 #include "store/table.h"
 #include "voice/agent.h"
 #include "voice/dialogs.h"
@@ -27,6 +28,7 @@ namespace {
 constexpr Colour kWhite = 0xFFFFFF;
 // Milliseconds. Off the whole second: keys that come once a second would all meet the gate shut by a tick.
 constexpr int kTick = 700;
+constexpr TextView kMeasuredText = u"012345678901234567890";  // its width gives that of a cell's character
 
 constexpr const char16_t* kOpeningText =
     u"Zelkoは､1行254文字を任意項目に区切り､項目単位にﾃｷｽﾄﾃﾞｰﾀを管理､編集します｡"
@@ -59,6 +61,7 @@ FrmLunch::FrmLunch() : Form(kName, u"Zelko") {
   if (agentOn == 1) form<frmAGENT>().showWithoutFocus();
   copy000();
   host().clipboardText(userClip);
+  charTwips = host().textTwips(kMeasuredText) / static_cast<int>(kMeasuredText.size());
   buildMenu();
   buildTiles();
   writeHints();
@@ -191,12 +194,14 @@ bool FrmLunch::openFromCommandLine(TextView commandLine) {
 
 // The opening text is the first thing to be heard, not the control that has the focus.
 void FrmLunch::FrmLunch_Activate() {
+  if (ticks_ > 1) return;  // back from another form: the control says where the user is
   Silence silence;
   if (Control* control = activeControl()) control->setFocus();
   Timer1.setInterval(kTick);
 }
 
 void FrmLunch::FrmLunch_Timer1_Timer() {
+  if (screen().activeForm() != this) return;  // a help text or a message has come in between
   if (++ticks_ > 1) Timer1.setInterval(0);
   if (ticks_ > 2 || talkMode == 0) return;
   talkS(*this, caption() + markStop + Text(kOpeningText));
@@ -217,10 +222,9 @@ void FrmLunch::FrmLunch_KeyDown(KeyEvent& key) {
 }
 
 void FrmLunch::switchOn(std::int16_t level) {
-  {
-    Silence silence;
-    Check2.setValue(1);
-  }
+  switching_ = true;
+  Check2.setValue(1);
+  switching_ = false;
   talkMode = level;
   showSpeechState();
   talkS(*this, level == 1 ? u"データのみ読み上げ" : u"行、項目番号付き読み上げ");
@@ -242,7 +246,10 @@ void FrmLunch::FrmLunch_Command1_Click() {
     return;
   }
   screen().unload(*this);
-  form<Form1>().show();
+  {
+    const Silence silence;  // there is no cell yet that could be told
+    form<Form1>().show();
+  }
   runCommand(u"mnuNEW");
 }
 
@@ -258,10 +265,11 @@ void FrmLunch::FrmLunch_Command3_Click() {
 }
 
 void FrmLunch::FrmLunch_Check2_Click() {
+  if (switching_) return;
   talkMode = Check2.value() == 1 ? 2 : 0;
   clipOwed_ = talkMode == 0;
   showSpeechState();
-  if (gateOpens()) talkNow(composed(this, u"ﾁｪｯｸﾎﾞｯｸｽ"));
+  talkGated(u"チェック" + markPause + Check2.caption() + u"ﾁｪｯｸﾎﾞｯｸｽ");
 }
 
 void FrmLunch::FrmLunch_Check2_LostFocus() {
@@ -277,9 +285,11 @@ void FrmLunch::FrmLunch_Check2_LostFocus() {
 
 void startFromLunch(TextView commandLine) {
   FrmLunch& lunch = form<FrmLunch>();
-  const bool opened = !trimmed(commandLine).empty() && lunch.openFromCommandLine(commandLine);
+  const bool named = !trimmed(commandLine).empty();
+  const bool opened = named && lunch.openFromCommandLine(commandLine);
   showSpeechState();
   if (!opened) {
+    if (!named) offerRecovery(appDir);  // the folder of a named table has been looked at
     lunch.show();
     return;
   }

@@ -69,6 +69,7 @@ class FrmLunch : public Form {
 
   int ticks_ = 0;
   bool clipOwed_ = false;  // the box has silenced the program; the user's clipboard is given back when it is left
+  bool switching_ = false;  // a key ticks the box and says the level itself
 };
 
 // Copies the sample board over the one in use, ignoring any error.

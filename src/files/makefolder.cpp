@@ -4,7 +4,6 @@
 #include "platform/files.h"
 #include "store/notice.h"
 #include "voice/dialogs.h"
-#include "voice/talk.h"
 
 namespace zelko {
 
@@ -31,9 +30,7 @@ bool makeFolder(TextView parent) {
     tellFailure(refusal(error, name), kTitle);
     return false;
   }
-  // Behind what the box said that got the focus back from the dialog.
-  if (talkMode != 0) waitSec(talkGap);
-  talkGated(u"フォルダ作成作成されました" + name);
+  talkBehindDialog(u"フォルダ作成作成されました" + name);
   return true;
 }
 

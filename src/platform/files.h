@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -62,12 +63,15 @@ FileError syncFile(int number);
 // line, a last line without an end counts. Past the end: pastEnd; so is the field behind a comma that ends the file.
 FileError readField(int number, Text& out);
 FileError readLine(int number, Text& out);
+// A line as the bytes of the file, for what must come back as it was: not every code survives a conversion.
+FileError readLineBytes(int number, std::string& out);
 bool atEnd(int number);
 
 // Text writes, Shift-JIS: the line with CR LF, or the text as it stands. They are buffered: an error may come with a
 // later one or with closeFile, and stays.
 FileError printLine(int number, TextView line);
 FileError print(int number, TextView text);
+FileError printBytes(int number, std::string_view bytes);
 
 bool fileExists(TextView path);  // a file, not a folder
 bool folderExists(TextView path);
@@ -80,6 +84,8 @@ FileError copyFile(TextView from, TextView to);
 // alreadyExists where something of that name stands, pathNotFound where the folder above is missing.
 // Gives `from` the name of `to` and its permissions, in one step: at every moment `to` is the old file or the new one.
 FileError replaceFile(TextView from, TextView to);
+// The file ends behind `length` bytes: what was written behind them is taken back.
+FileError cutFile(TextView path, std::int64_t length);
 FileError makeDirectory(TextView path);
 
 // The read-only attribute is the owner's write permission bit, read from the mode, not tried. What is missing is not

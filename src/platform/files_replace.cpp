@@ -1,7 +1,7 @@
-// Putting a finished file in the place of an old one.
+// Putting a finished file in the place of an old one, and taking back what was written behind an old end.
 #include <filesystem>
 
-#include "platform/files.h"
+#include "platform/openfiles.h"
 
 namespace zelko {
 
@@ -15,6 +15,13 @@ FileError replaceFile(TextView from, TextView to) {
   if (const fs::file_status old = fs::status(target, error); fs::is_regular_file(old))
     fs::permissions(source, old.permissions(), error);
   fs::rename(source, target, error);
+  return error ? FileError::pathAccess : FileError::none;
+}
+
+FileError cutFile(TextView path, std::int64_t length) {
+  std::error_code error;
+  std::filesystem::resize_file(toUtf8(path), static_cast<std::uintmax_t>(length), error);
+  dropWindows();
   return error ? FileError::pathAccess : FileError::none;
 }
 

@@ -150,6 +150,8 @@ bool Menu::walkKey(const KeyEvent& key) {
         highlight(*highlighted_->parent);
       } else {
         close();
+        // The control that the keys go to again says so.
+        if (Control* control = form_.activeControl()) fire(control->onGotFocus);
       }
       return true;
     default:

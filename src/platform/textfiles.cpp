@@ -1,6 +1,7 @@
 // Reads and writes of text files, Shift-JIS outside and Text inside.
 #include <algorithm>
 #include <cerrno>
+#include <utility>
 
 #include <unistd.h>
 
@@ -58,10 +59,10 @@ void dropQuotes(std::string& field) {
 
 FileError errorAtEnd(const OpenFile& file) { return file.error != FileError::none ? file.error : FileError::pastEnd; }
 
-FileError write(int number, TextView text, std::string_view end) {
+FileError write(int number, std::string_view bytes, std::string_view end) {
   OpenFile* file = openFile(number, OpenFile::Use::output);
   if (file == nullptr) return FileError::badNumber;
-  file->buffer.append(toSjis(text)).append(end);
+  file->buffer.append(bytes).append(end);
   return file->buffer.size() < kBufferSize ? file->error : flushText(*file, false);
 }
 
@@ -109,15 +110,22 @@ FileError readField(int number, Text& out) {
   return FileError::none;
 }
 
-FileError readLine(int number, Text& out) {
+FileError readLineBytes(int number, std::string& out) {
   out.clear();
   OpenFile* file = openFile(number, OpenFile::Use::input);
   if (file == nullptr) return FileError::badNumber;
   if (!fill(*file)) return errorAtEnd(*file);
-  const std::string line = takePiece(*file, false);
+  std::string line = takePiece(*file, false);
   if (file->error != FileError::none) return file->error;
-  out = fromSjis(line);
+  out = std::move(line);
   return FileError::none;
+}
+
+FileError readLine(int number, Text& out) {
+  std::string line;
+  const FileError error = readLineBytes(number, line);
+  out = fromSjis(line);
+  return error;
 }
 
 bool atEnd(int number) {
@@ -125,8 +133,10 @@ bool atEnd(int number) {
   return file == nullptr || !fill(*file);
 }
 
-FileError printLine(int number, TextView line) { return write(number, line, "\r\n"); }
+FileError printLine(int number, TextView line) { return write(number, toSjis(line), "\r\n"); }
 
-FileError print(int number, TextView text) { return write(number, text, ""); }
+FileError print(int number, TextView text) { return write(number, toSjis(text), ""); }
+
+FileError printBytes(int number, std::string_view bytes) { return write(number, bytes, ""); }
 
 }  // namespace zelko

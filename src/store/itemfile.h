@@ -1,6 +1,7 @@
 // The item file beside a table, and opening a table by it.
 #pragma once
 
+#include "store/description.h"
 #include "store/table.h"
 
 namespace zelko {
@@ -17,6 +18,8 @@ void readKFileOther(TextView path, TextView drive, Text& error);
 // Writes the table description, as a whole file that takes the place of the old one. False, nothing told, and the old
 // file stands, where the item file is read-only, the folder can't be written or the disk is full.
 bool writeKFile(TextView path, TextView drive);
+// The same for a description that is not that of the open table.
+bool writeKFileOf(TextView path, TextView drive, const TableDescription& table);
 // The item file KWORK.QQQ of a rewrite, beside the open table: items 0 to `count` of the second set. False, nothing
 // told and no such file, where it could not be written.
 bool writeKFileWork(int count);

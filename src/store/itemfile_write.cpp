@@ -27,14 +27,18 @@ TableDescription described(int highest, const Texts& names, const Texts& alignme
 
 Text besideTable(TextView name) { return beside(joinName(docDrive, docPath), name); }
 
-bool writeKFile(TextView path, TextView drive) {
+bool writeKFileOf(TextView path, TextView drive, const TableDescription& table) {
   const Text target = itemFilePath(path, drive);
   if (isReadOnly(target)) return false;
   const Text unfinished = beside(target, kUnfinished);
-  if (!writeDescription(unfinished, described(itemCount, itemName, itemLR, itemWidth))) return false;
+  if (!writeDescription(unfinished, table)) return false;
   if (replaceFile(unfinished, target) == FileError::none) return true;
   deleteFile(unfinished);
   return false;
+}
+
+bool writeKFile(TextView path, TextView drive) {
+  return writeKFileOf(path, drive, described(itemCount, itemName, itemLR, itemWidth));
 }
 
 bool writeKFileWork(int count) {

@@ -6,6 +6,7 @@
 #include "store/itemfile.h"
 #include "store/notice.h"
 #include "store/records.h"
+#include "store/recovery.h"
 #include "voice/talk.h"
 
 namespace zelko {
@@ -42,6 +43,7 @@ void openTable(TextView fullName, Text& error) {
   Text drive, path;
   splitName(fullName, drive, path);
   error = u"error";
+  if (!offerRecovery(joinName(drive, path))) return closeAll();
   TableDescription table;
   if (!readToOpen(path, drive, table)) return;
   closeAll();

@@ -11,9 +11,11 @@ namespace zelko {
 
 namespace {
 
+TextView titleOf(bool lock) { return lock ? u"書き込み禁止のセット" : u"書き込み禁止の解除"; }
+
 bool confirmed(bool lock) {
-  if (!lock) return askYesNo(u"編集中の読み取り専用指定を解除します。", u"書き込み禁止の解除");
-  return askYesNo(u"編集中のﾌｧｲﾙを読み取り専用にセットします｡解除しない限り編集できません。", u"書き込み禁止のセット");
+  if (!lock) return askYesNo(u"編集中の読み取り専用指定を解除します。", titleOf(lock));
+  return askYesNo(u"編集中のﾌｧｲﾙを読み取り専用にセットします｡解除しない限り編集できません。", titleOf(lock));
 }
 
 }  // namespace
@@ -36,6 +38,7 @@ void toggleReadOnly() {
   const bool changed = setReadOnly(joinName(docDrive, docPath), lock) == FileError::none;
   if (!reopenData() || !changed) return tellWriteError();
   showReadOnlyMark(lock);
+  talkBehindDialog(titleOf(lock));
 }
 
 }  // namespace zelko

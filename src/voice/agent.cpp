@@ -1,5 +1,6 @@
 #include "voice/agent.h"
 
+#include <algorithm>
 #include <array>
 
 #include "platform/fault.h"
@@ -23,6 +24,13 @@ constexpr std::array<Tag, 4> kSpeeds = {{{u"\\Spd=0\\", u"スピード1"},
 constexpr std::array<Tag, 2> kPitches = {{{u"\\PIT=0\\", u"高さ1"}, {u"\\PIT=60000\\", u"高さ2"}}};
 
 Character& character() { return host().character(); }
+
+// Back to the form that this one stands beside.
+void leaveTo(const Form& own) {
+  const auto& shown = screen().shown();
+  const auto other = std::find_if(shown.rbegin(), shown.rend(), [&](const Form* form) { return form != &own; });
+  if (other != shown.rend()) (*other)->activate();
+}
 
 }  // namespace
 
@@ -49,6 +57,11 @@ frmAGENT::frmAGENT()
   Command1.onClick = [this] { frmAGENT_Command1_Click(); };
   wireOptions();
   onUnload = [] { character().unload(); };
+  onKeyDown = [this](KeyEvent& key) {
+    if (!key.is(key::Esc, shift::None)) return;
+    key.swallow();
+    leaveTo(*this);
+  };
   loadCharacter(kCharacterFiles[0]);
 
   Narration narration(*this);

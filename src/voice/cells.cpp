@@ -100,9 +100,10 @@ void talkReturn(TextView head, TextView recordBox, TextView itemBox) {
   say(sentence + currentCell() + markPause + u"データ入力" + u"ﾃｷｽﾄﾎﾞｯｸｽ");
 }
 
-Text diffTalk(TextView before, TextView after) {
-  const auto left = itemWidth[at(curItem)] - static_cast<std::int64_t>(sjisLength(after));
-  return diffText(before, after) + u" ざん" + decimal(left) + u"バイト";
+Text bytesLeft(TextView text) {
+  return u" ざん" + decimal(itemWidth[at(curItem)] - static_cast<std::int64_t>(sjisLength(text))) + u"バイト";
 }
+
+Text diffTalk(TextView before, TextView after) { return diffText(before, after) + bytesLeft(after); }
 
 }  // namespace zelko

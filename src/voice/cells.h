@@ -14,6 +14,8 @@ Text stateReport(TextView inputText);
 void talkReturn(TextView head, TextView recordBox, TextView itemBox);
 
 // Words for an edit in the input box, with the bytes left in the current item.
+// " ざん", the bytes that the current item has left beside `text`, "バイト".
+Text bytesLeft(TextView text);
 Text diffTalk(TextView before, TextView after);
 
 // The trimmed cell of the current record and item; record and item as decimals; the trimmed name.

@@ -80,6 +80,16 @@ std::size_t rinstrS(TextView text, TextView what, std::size_t lowest) {
   return at + 1;
 }
 
+Text typedOver(TextView before, TextView after) {
+  if (before.size() == after.size()) return {};
+  const std::size_t shorter = std::min(before.size(), after.size());
+  const std::size_t first = firstDifference(before, after, shorter);
+  std::size_t tail = 0;
+  while (tail < shorter - first && before[before.size() - 1 - tail] == after[after.size() - 1 - tail]) ++tail;
+  const bool replaced = first + tail < shorter;
+  return replaced ? Text(after.substr(first, after.size() - tail - first)) : Text();
+}
+
 Text diffText(TextView before, TextView after) {
   if (after.size() > before.size()) {
     const std::size_t i = firstDifference(before, after, before.size());

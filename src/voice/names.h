@@ -15,6 +15,8 @@ std::size_t rinstrS(TextView text, TextView what, std::size_t lowest);
 
 // Words for an edit: the inserted, erased or overwritten run with its word behind it. `before` differs from `after`.
 Text diffText(TextView before, TextView after);
+// What stands in place of a run of another length, as when a selection is typed over; empty for any other edit.
+Text typedOver(TextView before, TextView after);
 
 extern int selPrev;  // length of the selection at the previous key-up
 

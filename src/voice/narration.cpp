@@ -56,10 +56,18 @@ void talkMark(const ListBox& list, const Text& description) {
   talkNow(list.text() + markPause + description);
 }
 
+const MenuEntry& barOf(const MenuEntry& entry) { return entry.parent ? barOf(*entry.parent) : entry; }
+
+// The name of the menu stands in front where the walk has come to another one.
 void talkMenuEntry(const MenuEntry& entry) {
+  static const MenuEntry* lastBar = nullptr;
   if (entry.isSeparator() || !gateOpens()) return;
   ++composedSentences;
-  Text sentence = entry.captionWithoutMarks();
+  const MenuEntry& bar = barOf(entry);
+  Text sentence;
+  if (&bar != &entry && &bar != lastBar) sentence = bar.captionWithoutMarks() + markPause;
+  lastBar = &bar;
+  sentence += entry.captionWithoutMarks();
   const Text shortcut = entry.shortcutText();
   if (!shortcut.empty()) sentence += markPause + shortcut;
   if (entry.checked) sentence += markPause + u"チェック";

@@ -26,6 +26,14 @@ Text movedEnd(int code, int length) {
   return grows == (code == key::Left) ? u" ﾊｼﾞﾒﾆ ｱﾘﾏｽ" : u" ｵﾜﾘﾆ ｱﾘﾏｽ";
 }
 
+// A single character is named, a longer run said as text.
+Text wordsForChange(const Text& previous, const Text& now) {
+  if (const Text typed = typedOver(previous, now); !typed.empty()) return typed.size() == 1 ? charName(typed) : typed;
+  const Text words = diffText(previous, now);
+  const auto change = static_cast<std::int64_t>(now.size()) - static_cast<std::int64_t>(previous.size());
+  return std::abs(change) > 1 ? words : charName(left(words, 1)) + mid(words, 2);
+}
+
 void sayNow(Text sentence) {
   ++composedSentences;
   talkNow(sentence);
@@ -99,12 +107,7 @@ void talkCaret() {
 void talkRichChange(const TextBox& box, Text& previous) {
   const Text now = box.content();
   if (now == previous) return;
-  if (gateOpens()) {
-    Text words = diffText(previous, now);
-    const auto change = static_cast<std::int64_t>(now.size()) - static_cast<std::int64_t>(previous.size());
-    if (std::abs(change) <= 1) words = charName(left(words, 1)) + mid(words, 2);
-    sayNow(words);
-  }
+  if (gateOpens()) sayNow(wordsForChange(previous, now));
   previous = now;
 }
 

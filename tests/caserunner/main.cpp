@@ -153,6 +153,14 @@ void record(const Case& played, const fs::path& folder, const std::string& trans
   }
 }
 
+// The folder of a run is another one each time: a transcript calls it "~".
+std::string readTranscript(const fs::path& transcript, const fs::path& folder) {
+  std::string heard = readBytes(transcript);
+  const std::string place = folder.string();
+  for (std::size_t at; (at = heard.find(place)) != std::string::npos;) heard.replace(at, place.size(), "~");
+  return heard;
+}
+
 bool play(const Case& played, bool recording) {
   std::string pattern = (fs::temp_directory_path() / "zelko-case-XXXXXX").string();
   if (!::mkdtemp(pattern.data())) return false;
@@ -160,7 +168,7 @@ bool play(const Case& played, bool recording) {
   fs::create_directory(folder);
   if (fs::exists(played.folder / "before")) fs::copy(played.folder / "before", folder, fs::copy_options::recursive);
   int status = runProgram(played, folder, transcript);
-  std::string heard = readBytes(transcript);
+  std::string heard = readTranscript(transcript, folder);
   bool right = status == played.status;
   if (!right) std::cout << "exit status " << status << ", wanted " << played.status << "\n";
   if (recording) {

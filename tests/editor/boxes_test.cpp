@@ -33,16 +33,16 @@ TEST_CASE_FIXTURE(EditorFixture, "numbers typed into the number boxes jump, or a
       {{"focus txtREC", "type 3", "Enter"},
        {"say 1､記録番号 ﾃｷｽﾄﾎﾞｯｸｽ", "say 3", "say ギョウ3/項目0/3､データ入力ﾃｷｽﾄﾎﾞｯｸｽ"},
        {3, 0}},
-      {{"focus txtREC", "Delete", "type 4", "Enter"}, {"say 1､記録番号 ﾃｷｽﾄﾎﾞｯｸｽ", "say 4", "beep", back}, {1, 0}},
-      {{"focus txtREC", "Delete", "Enter"}, {"say 1､記録番号 ﾃｷｽﾄﾎﾞｯｸｽ", "beep", back}, {1, 0}},
-      {{"focus txtREC", "Delete", "type 0", "Enter"}, {"say 1､記録番号 ﾃｷｽﾄﾎﾞｯｸｽ", "say 0", "beep", back}, {1, 0}},
-      {{"focus txtREC", "End", "type 9", "focus txtinputbox"}, {"say 1､記録番号 ﾃｷｽﾄﾎﾞｯｸｽ", "say 19", back}, {1, 0}},
+      {{"focus txtREC", "type 4", "Enter"}, {"say 1､記録番号 ﾃｷｽﾄﾎﾞｯｸｽ", "say 4", "beep", back}, {1, 0}},
+      {{"focus txtREC", "Delete", "Enter"}, {"say 1､記録番号 ﾃｷｽﾄﾎﾞｯｸｽ", "say ブランク", "beep", back}, {1, 0}},
+      {{"focus txtREC", "type 0", "Enter"}, {"say 1､記録番号 ﾃｷｽﾄﾎﾞｯｸｽ", "say 0", "beep", back}, {1, 0}},
+      {{"focus txtREC", "type 9", "focus txtinputbox"}, {"say 1､記録番号 ﾃｷｽﾄﾎﾞｯｸｽ", "say 9", back}, {1, 0}},
       {{"focus txtItemnum", "type 2", "Enter"},
        {"say 0､項目番号ﾃｷｽﾄﾎﾞｯｸｽ", "say 2", "say ギョウ1/項目2/80､データ入力ﾃｷｽﾄﾎﾞｯｸｽ"},
        {1, 2}},
-      {{"focus txtItemnum", "Delete", "type 3"}, {"say 0､項目番号ﾃｷｽﾄﾎﾞｯｸｽ", "beep", back}, {1, 0}},
+      {{"focus txtItemnum", "type 3"}, {"say 0､項目番号ﾃｷｽﾄﾎﾞｯｸｽ", "beep", back}, {1, 0}},
       {{"focus txtItemnum", "type -"}, {"say 0､項目番号ﾃｷｽﾄﾎﾞｯｸｽ", "beep", back}, {1, 0}},
-      {{"focus txtItemnum", "Delete", "Enter"}, {"say 0､項目番号ﾃｷｽﾄﾎﾞｯｸｽ", "beep", back}, {1, 0}},
+      {{"focus txtItemnum", "Delete", "Enter"}, {"say 0､項目番号ﾃｷｽﾄﾎﾞｯｸｽ", "say ブランク", "beep", back}, {1, 0}},
   };
   for (const Row& row : rows) {
     CAPTURE(row.keys);
@@ -58,7 +58,7 @@ TEST_CASE_FIXTURE(EditorFixture, "numbers typed into the number boxes jump, or a
 TEST_CASE_FIXTURE(EditorFixture, "a jump stores what was typed and ends the numbering") {
   open(kItems, kRecords, 1);
   autoIdOn = 1;
-  play({"Right", "commit z", "focus txtREC", "Delete", "type 2", "Enter"});
+  play({"Right", "commit z", "focus txtREC", "type 2", "Enter"});
   CHECK(record(1) == "1  z      80");
   CHECK(autoIdOn == 0);
 }
@@ -101,10 +101,10 @@ TEST_CASE_FIXTURE(EditorFixture, "another alignment letter moves the cells of th
   CHECK(file("Kt.txt").find(toSjis(u"1001 '氏名,R")) != std::string::npos);
   CHECK(utf8(mainForm().txtLR.content()) == "R");
   // No letter, and a table that may not be written: the box goes back.
-  play({"focus txtLR", "Delete", "type Q", "focus txtinputbox"});
+  play({"focus txtLR", "type Q", "focus txtinputbox"});
   CHECK(utf8(mainForm().txtLR.content()) == "R");
   setReadOnly(fromUtf8(path(kTable)), true);
-  play({"focus txtLR", "Delete", "type L", "focus txtinputbox", "Enter"});
+  play({"focus txtLR", "type L", "focus txtinputbox", "Enter"});
   CHECK(utf8(mainForm().txtLR.content()) == "R");
   CHECK(record(1) == "1    山田 80");
 }
@@ -116,7 +116,6 @@ TEST_CASE_FIXTURE(EditorFixture, "a refused write is told once, and the cursor g
   Heard first = play({"commit z", "Down", "Enter"});
   CHECK(first.at(1) == "beep");
   CHECK(first.at(2).starts_with("say 書き込み禁止ﾌｧｲﾙです。"));
-  CHECK(first.back() == "say x");
   CHECK(curRec == 2);
   CHECK(mainForm().Label1.visible());
   CHECK(play({"commit z", "Down"}) == Heard{"say ｾﾞｯﾄ ざん5バイト", "say y"});

@@ -3,8 +3,10 @@
 #include "editor/registereditor.h"
 #include "editor/state.h"
 #include "editor/view.h"
+#include "files/design.h"
 #include "files/disk.h"
 #include "files/help.h"
+#include "files/hozon.h"
 #include "store/cursor.h"
 #include "store/table.h"
 #include "voice/talk.h"
@@ -18,6 +20,8 @@ void registerOnce() {
     registerEditor();
     registerFilePicker();
     registerHelp();
+    registerTableDesign();
+    registerOutputFiles();
     return true;
   }();
   (void)done;

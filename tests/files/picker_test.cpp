@@ -161,7 +161,6 @@ TEST_CASE_FIXTURE(FilesFixture, "the toggle shows all files and comes back") {
                {"files by their whole names",
                 {"focus frmDISK.File1", "key Down", "key Down", "key Down"},
                 "ファイル、ﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽ / K名簿.txtﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽ / 名簿.txtﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽ / 手紙.docﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽ"},
-               {"the conversion is not there yet", {"key Enter"}, "beep"},
                {"and back, where nothing is chosen",
                 {"focus frmDISK.cmdNOTZLK", "key Enter", "focus frmDISK.File1", "key Enter"},
                 "Zelkoファイルだけを表示するｺﾏﾝﾄﾞﾎﾞﾀﾝ / Zelkoﾌｧｲﾙ指定 ﾌｧｲﾙを指定して下さい。 / "

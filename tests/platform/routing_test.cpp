@@ -122,7 +122,7 @@ TEST_CASE("menu: shortcuts, refusals and the walk by keys") {
   CHECK(s.sample().menu().highlighted() == nullptr);
   CHECK(after("key Alt+E\nkey Enter") == "at Nobody(N) beep");
   CHECK(after("key Alt+F\nkey X") == "at Save(S) beep");
-  CHECK(after("key Esc\nkey Z") == "text z");
+  CHECK(after("key Esc\nkey Z") == "in box / text z");
   s.sample().menu().setEnabled(u"mnuFILE", false);
   CHECK(after("key Ctrl+S") == "beep");
   s.sample().menu().setEnabled(u"mnuFILE", true);

@@ -166,10 +166,10 @@ TEST_CASE("a menu that is walked by key says each entry") {
     menu.add(&file, u"mnuDEL", u"ﾌｧｲﾙ削除").enabled = false;
     menu.add(&menu.add(&file, u"mnuVAR", u"分散分析"), u"mnu1", u"一元配置");
   });
-  const char* rows[][2] = {{"Alt+F", "印刷(P)､F9"},
+  const char* rows[][2] = {{"Alt+F", "ﾌｧｲﾙ(F)､印刷(P)､F9"},
                            {"Down", "書き込み禁止､チェック"},
                            {"Down", "ﾌｧｲﾙ削除､使用不可"},
                            {"Down", "分散分析､サブメニュー"},
-                           {"Esc", ""}};
+                           {"Esc", "文 ﾃｷｽﾄﾎﾞｯｸｽ"}};
   for (const auto& [key, heard] : rows) CHECK(session.saidAt(key) == heard);
 }
