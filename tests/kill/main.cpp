@@ -1,6 +1,6 @@
 // Plays the session of a case again and again, killed before each of its writes in turn: zelko_kill PROGRAM CASE.
-// Every record and the item file must then be one of those that stand there between two lines of the session, and the
-// table must open.
+// The table must then open, behind a yes where an interrupted rewrite asks for one, and every record and the item file
+// must be one of those that stand there between two lines of the session.
 #include <fcntl.h>
 #include <sys/ptrace.h>
 #include <sys/syscall.h>
@@ -130,10 +130,11 @@ struct Versions {
   // What is not whole there; empty where all is.
   std::string broken(const Session& session) const {
     const std::string data = readBytes(session.data());
-    if (data.size() % kRecord != 0 || data.size() / kRecord > records.size()) return "the data file's length";
+    if (data.size() % kRecord != 0 || data.size() / kRecord > records.size()) return "the data file's length is odd";
     for (std::size_t at = 0; at < data.size(); at += kRecord)
-      if (!records[at / kRecord].contains(data.substr(at, kRecord))) return "record " + std::to_string(at / kRecord + 1);
-    return itemFiles.contains(readBytes(session.items())) ? "" : "the item file";
+      if (!records[at / kRecord].contains(data.substr(at, kRecord)))
+        return "record " + std::to_string(at / kRecord + 1) + " is not whole";
+    return itemFiles.contains(readBytes(session.items())) ? "" : "the item file is not whole";
   }
 };
 
@@ -154,12 +155,11 @@ bool survives(const Session& session, const Versions& versions, long stopAt) {
     std::cerr << "the session does not run under the trace\n";
     return false;
   }
-  const std::string broken = versions.broken(session);
-  if (!broken.empty()) std::cerr << "killed before write " << stopAt + 1 << ": " << broken << " is not whole\n";
-  std::ofstream(session.script()) << "show forms\nexpect forms frmSHEET Form1\n";
+  std::ofstream(session.script()) << "key Y\nshow forms\nexpect forms frmSHEET Form1\n";
   const bool opens = play(session, kNever) >= 0;
-  if (!opens) std::cerr << "killed before write " << stopAt + 1 << ": the table does not open\n";
-  return broken.empty() && opens;
+  const std::string broken = opens ? versions.broken(session) : "the table does not open";
+  if (!broken.empty()) std::cerr << "killed before write " << stopAt + 1 << ": " << broken << '\n';
+  return broken.empty();
 }
 
 }  // namespace
