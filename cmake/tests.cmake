@@ -24,7 +24,7 @@ endif()
 # Sessions that write, killed before each write.
 add_executable(zelko_kill tests/kill/main.cpp)
 if(TARGET zelko)
-  foreach(CASE_NAME an-edited-table)
+  foreach(CASE_NAME an-edited-table record-inserted-and-deleted design-widths-rewritten)
     add_test(NAME kill/${CASE_NAME} COMMAND zelko_kill $<TARGET_FILE:zelko> ${CMAKE_SOURCE_DIR}/tests/cases/${CASE_NAME})
   endforeach()
 endif()

@@ -161,6 +161,9 @@ TEST_CASE("the talking character takes the place of the clipboard") {
   CHECK(heard[0] == "agent \\Spd=500スピード2");
   CHECK(heard[1] == "agent \\PIT=0\\高さ1");
   CHECK(heard[2] == "agent \\PIT=0\\文");
+  session.run([] { talkNow(Text(u"もう一度")); });
+  session.click("frmAGENT.Command1");
+  CHECK(session.events().back() == "agent もう一度");
 }
 
 TEST_CASE("speech settings survive a run, and a rotten file is no setting") {
