@@ -24,7 +24,8 @@ namespace zelko {
 namespace {
 
 constexpr Colour kWhite = 0xFFFFFF;
-constexpr int kTick = 1000;  // milliseconds
+constexpr int kTick = 1000;                                   // milliseconds
+constexpr TextView kMeasuredText = u"012345678901234567890";  // its width gives that of a cell's character
 
 constexpr const char16_t* kOpeningText =
     u"Zelkoは､1行254文字を任意項目に区切り､項目単位にﾃｷｽﾄﾃﾞｰﾀを管理､編集します｡"
@@ -57,6 +58,7 @@ FrmLunch::FrmLunch() : Form(kName, u"Zelko") {
   if (agentOn == 1) form<frmAGENT>().showWithoutFocus();
   copy000();
   host().clipboardText(userClip);
+  charTwips = host().textTwips(kMeasuredText) / static_cast<int>(kMeasuredText.size());
   buildMenu();
   buildTiles();
   writeHints();

@@ -81,6 +81,8 @@ class Host {
   // 32 random bits.
   virtual std::uint32_t randomBits() = 0;
   virtual void beep() = 0;
+  // Width of `text` on the screen, in twips; without a screen 120 for each half-width character.
+  virtual int textTwips(TextView text);
 
   // The clipboard. False where it could not be read or set; nothing has changed then.
   virtual bool clipboardText(Text& out) = 0;
