@@ -91,8 +91,17 @@ bool shiftDataRight(int) {
   return true;
 }
 
+// Nothing to erase there: a key that does nothing is heard as well.
+bool eraseBack(int) {
+  if (box().selStart() == 0 && box().selLength() == 0) host().beep();
+  return false;
+}
+
 bool shiftDataLeft(int) {
-  if (!boxIsBlank()) return false;
+  if (!boxIsBlank()) {
+    if (box().selStart() == static_cast<int>(box().content().size())) host().beep();
+    return false;
+  }
   runCommand(u"mnuSLEFT");
   return true;
 }
@@ -164,6 +173,7 @@ constexpr KeyRow kKeyRows[] = {
     {key::Left, shift::Ctrl, toFirstItem},
     {key::Insert, shift::ShiftCtrl, insertOneRecord},
     {key::Insert, shift::None, shiftDataRight},
+    {key::Backspace, shift::None, eraseBack},
     {key::Delete, shift::None, shiftDataLeft},
     {'T', shift::Ctrl, fiveItems, 1},
     {'T', shift::ShiftCtrl, fiveItems, -1},
@@ -187,10 +197,6 @@ int rangeKindOf(const KeyEvent& key) {
   if (key.mask == shift::Alt) return upDown ? 2 : 3;
   if (key.mask != shift::Shift) return 0;
   return upDown || box().content().empty() ? 1 : 0;
-}
-
-bool isSumKey(const KeyEvent& key) {
-  return key.mask == shift::Ctrl && key.code >= key::Num0 && key.code <= key::Num0 + 9;
 }
 
 void sumKeyDown(int code) {
@@ -233,8 +239,8 @@ bool actOn(const KeyEvent& key) {
     runCommand(u"mnuF");
     return true;
   }
-  if (isSumKey(key)) {
-    sumKeyDown(key.code);
+  if (const int sum = sumKeyOf(key)) {
+    sumKeyDown(sum);
     return true;
   }
   bool rangeDropped = false;

@@ -79,6 +79,8 @@ void Form5::Form5_Grid1_KeyPress(CharEvent& event) {
     mark(true);
   else if (event.ch == u' ')
     mark(false);
+  else if (event.ch == key::Enter)
+    Form5_Command1_Click();  // closes the form
   else
     return;
   event.ch = 0;

@@ -130,8 +130,7 @@ void frmHANI::frmHANI_Text5_KeyDown(KeyEvent& key) {
   } else if (key.is(key::Insert, shift::Ctrl)) {
     key.swallow();
     clip();
-  } else if (key.mask == shift::Ctrl && key.code >= key::Num0 && key.code <= key::Num0 + 9) {
-    const int code = key.code;
+  } else if (const int code = sumKeyOf(key)) {
     key.swallow();
     sum(code);
   } else if (moveWhileChoosing(key)) {

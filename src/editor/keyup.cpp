@@ -91,7 +91,8 @@ bool caretKey(const KeyEvent& key) {
     if (!boxText().empty() && gateOpens()) talkCaretChar();
     return true;
   }
-  if (key.is(key::function(12), shift::None)) {
+  const bool toEnd = key.is(key::Home, shift::None) || key.is(key::End, shift::None);
+  if (key.is(key::function(12), shift::None) || (toEnd && !trimmed(boxText()).empty())) {
     talkCaret();
     return true;
   }

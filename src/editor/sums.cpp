@@ -100,6 +100,13 @@ bool columnSum() {
 
 }  // namespace
 
+int sumKeyOf(const KeyEvent& key) {
+  if (key.mask != shift::Ctrl) return 0;
+  if (key.code >= key::Num0 && key.code <= key::Num0 + 9) return key.code;
+  const bool upperRow = key.code >= key::Digit0 && key.code <= key::Digit0 + 9;
+  return upperRow ? key.code - key::Digit0 + key::Num0 : 0;
+}
+
 void sumKey(int code) {
   if (code == key::Num0) return void(rowSum());
   if (code == key::Num0 + 1) return void(columnSum());

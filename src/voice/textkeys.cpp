@@ -3,6 +3,7 @@
 
 #include "platform/controls.h"
 #include "platform/form.h"
+#include "platform/host.h"
 #include "platform/number.h"
 #include "voice/names.h"
 #include "voice/narration.h"
@@ -19,6 +20,8 @@ constexpr std::size_t kAroundCaret = 10;  // characters
 TextBox* activeBox() { return dynamic_cast<TextBox*>(screen().activeControl()); }
 
 bool isSidewards(int code) { return code == key::Left || code == key::Right; }
+
+bool isLineEndKey(const KeyEvent& key) { return key.is(key::Home, shift::None) || key.is(key::End, shift::None); }
 
 Text movedEnd(int code, int length) {
   if (length == selPrev) return {};
@@ -84,7 +87,7 @@ void talkTextKey(int code, int mask, [[maybe_unused]] int third, TextView descri
     talkSelection(*box, code);
   } else if (isRepeatKey(key)) {
     if (gateOpens()) sayNow(box->content() + Text(description));
-  } else if (key.is(key::function(12), shift::None)) {
+  } else if (key.is(key::function(12), shift::None) || isLineEndKey(key)) {
     talkCaret();
   } else if (isSidewards(code) && mask == shift::None) {
     if (gateOpens()) talkCaretChar();
@@ -96,7 +99,9 @@ void talkTextKey(int code, int mask, [[maybe_unused]] int third, TextView descri
 void talkCaretChar() {
   const TextBox* box = activeBox();
   if (!box || talkMode == 0) return;
-  sayNow(charName(mid(box->content(), static_cast<std::size_t>(box->selStart()) + 1, 1)));
+  const Text ch = mid(box->content(), static_cast<std::size_t>(box->selStart()) + 1, 1);
+  if (ch.empty()) return host().beep();  // behind the last one
+  sayNow(charName(ch));
 }
 
 void talkCaret() {
