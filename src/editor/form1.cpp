@@ -13,6 +13,10 @@
 
 namespace zelko {
 
+namespace {
+constexpr int kNumberTwips = 960;  // room for eight digits
+}
+
 Form1::Form1() : Form(kName, u"Zelko") {
   boxCharTwips = 136;
   RichTextBox1.setToolTip(u"項目名は変更できます。編集してセル移動操作をしてください");
@@ -77,8 +81,15 @@ void Form1::labelBoxes() {
   Text1.labelledBy = &Label12;
   txtWIDTH.labelledBy = &lblWIDTH;
   txtLR.labelledBy = &Label9;
-  Control* const firstOfRow[] = {&Label7, &Label2, &RichTextBox1, &Label12, &Label4, &Label8, &Command1};
-  for (Control* control : firstOfRow) control->place = Place::newRow;
+  RichTextBox1.screenName = u"項目名";
+  RichTextBox2.screenName = u"ﾌｧｲﾙ注記";
+  for (Control* control : std::initializer_list<Control*>{&RichTextBox2, &Text1, &Label4, &Command1})
+    control->place = Place::newRow;
+  for (Control* control : std::initializer_list<Control*>{&txtItemnum, &RichTextBox1, &txtWIDTH, &txtLR, &Label13,
+                                                          &Label6, &Label11, &Label8, &Label1, &Label5, &lblSpeek})
+    control->place = Place::sameRow;
+  for (Control* control : std::initializer_list<Control*>{&txtREC, &txtItemnum, &Text1, &txtWIDTH, &txtLR})
+    control->setWidth(kNumberTwips);
 }
 
 void Form1::narrate() {

@@ -7,8 +7,8 @@ namespace zelko {
 
 // Keypad digit 96..105: row sum, column sum, scores, formulas. Any other code beeps.
 void sumKey(int code);
-// The same on the held range: the sum is offered to the clipboard.
-void sumKeyOnRange(int code);
+// Keypad 0 or 1 on the held range: the sum is offered to the clipboard. True where it is there now, and heard.
+bool sumKeyOnRange(int code);
 
 void idAuto();    // numbering of the ID item on or off
 void setLimit();  // sets or clears inputLimit

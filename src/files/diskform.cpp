@@ -34,7 +34,8 @@ void frmDISK::writeHints() {
     hint->tabStop = false;
   }
   Text1.readOnly = true;
-  Dir1.place = Place::newRow;
+  Dir1.place = Place::sameRow;
+  Text1.screenName = u"選択ﾌｧｲﾙ名";
   Label2.place = Place::newRow;
   Command1.place = Place::newRow;
   Text2.place = Place::newRow;

@@ -25,7 +25,7 @@ frmFileNo::frmFileNo() : Form(kName, u"他ﾌｧｲﾙの項目指定") {
   Command2.onClick = [this] { screen().unload(*this); };
   Command1.isDefault = true;
   Command2.isCancel = true;
-  Dir1.place = Place::newRow;
+  Dir1.place = Place::sameRow;
   File1.place = Place::newRow;
   Check1.place = Place::newRow;
   narrate();

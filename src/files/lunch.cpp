@@ -28,6 +28,7 @@ namespace {
 constexpr Colour kWhite = 0xFFFFFF;
 // Milliseconds. Off the whole second: keys that come once a second would all meet the gate shut by a tick.
 constexpr int kTick = 700;
+constexpr int kTileTwips = 2640;  // room for 22 characters, so that the tiles stand in columns
 constexpr TextView kMeasuredText = u"012345678901234567890";  // its width gives that of a cell's character
 
 constexpr const char16_t* kOpeningText =
@@ -117,7 +118,8 @@ void FrmLunch::buildTiles() {
 void FrmLunch::tile(PictureBox& picture, Label& label, int index) {
   picture.tabStop = true;
   picture.labelledBy = &label;
-  label.place = Place::sameRow;
+  picture.place = index % 2 == 1 ? Place::newRow : Place::sameRow;
+  label.setWidth(kTileTwips);
   picture.draw({PictureBox::Stroke::box, 60, 60, 540, 420, 0, {}});
   for (int line = 1; line <= index; ++line)
     picture.draw({PictureBox::Stroke::line,
@@ -153,6 +155,7 @@ void FrmLunch::writeHints() {
     hint->readOnly = true;
     hint->tabStop = false;
   }
+  Text2.place = Text3.place = Place::sameRow;
 }
 
 void FrmLunch::narrate() {

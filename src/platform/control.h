@@ -116,6 +116,8 @@ class Control {
   Place place = Place::automatic;
   // The label that names this control for a reader of the screen; the label stands beside it.
   Control* labelledBy = nullptr;
+  // What it calls a control that has neither label nor caption.
+  Text screenName;
 
   std::function<void()> onGotFocus, onLostFocus, onChange, onClick, onDblClick;
   std::function<void(KeyEvent&)> onKeyDown, onKeyUp;

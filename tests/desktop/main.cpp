@@ -3,10 +3,12 @@
 
 #include <QApplication>
 
+#include "platform/qt/accessibility.h"
 #include "platform/qt/look.h"
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   zelko::dress(application);
+  zelko::prepareAccessibility();
   return doctest::Context(argc, argv).run();
 }

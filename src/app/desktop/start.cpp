@@ -7,6 +7,7 @@
 #include "app/wiring.h"
 #include "platform/qt/desktop.h"
 #include "speech/reader.h"
+#include "voice/talk.h"
 
 namespace zelko {
 
@@ -44,6 +45,7 @@ int startOnDesktop(int argc, char** argv, const CommandLine& line) {
     std::cerr << "zelko: there is no display; --replay SCRIPT plays a session without one\n";
     return kNoDisplay;
   }
+  desktopHooks().speaks = [] { return talkMode != 0; };
   std::unique_ptr<Reader> reader;
   if (line.reader) {
     reader = std::make_unique<Reader>();

@@ -7,6 +7,7 @@
 #include "platform/fault.h"
 #include "platform/files.h"
 #include "platform/form.h"
+#include "platform/qt/accessibility.h"
 #include "platform/qt/darkmode.h"
 #include "platform/qt/look.h"
 #include "platform/qt/qstring.h"
@@ -52,6 +53,7 @@ int runDesktop(int argc, char** argv, const std::function<void()>& startProgram)
   QApplication::setApplicationName(QStringLiteral("zelko"));
   dress(application);
   followDarkMode();
+  prepareAccessibility();
   QtHost host;
   setHost(&host);
   const int status = runProgram(host, startProgram);

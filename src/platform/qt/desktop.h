@@ -9,6 +9,8 @@ namespace zelko {
 
 // Where the sentences go besides the clipboard and the windows; each may stay empty.
 struct DesktopHooks {
+  // True while every move is said by the program itself.
+  std::function<bool()> speaks;
   std::function<void(TextView)> onSentence;   // a sentence was put on the clipboard
   std::function<void(TextView)> onAgent;      // the talking character speaks
   std::function<void()> onAgentStop;          // and falls silent

@@ -1,12 +1,10 @@
 #include "platform/qt/layout.h"
 
-#include <QGridLayout>
-#include <QHBoxLayout>
-#include <QLabel>
 #include <algorithm>
 
 #include "platform/controls.h"
 #include "platform/form.h"
+#include "platform/qt/page.h"
 #include "platform/qt/view.h"
 
 namespace zelko {
@@ -42,9 +40,10 @@ bool joins(const LayoutRow& row, const Control& control) {
   return row.back().control->kind() == kind;
 }
 
-bool growsDown(ControlKind kind) {
-  switch (kind) {
+bool growsDown(const Control& control) {
+  switch (control.kind()) {
     case ControlKind::richTextBox:
+      return isLongText(static_cast<const TextBox&>(control));
     case ControlKind::listBox:
     case ControlKind::driveBox:
     case ControlKind::folderBox:
@@ -58,68 +57,61 @@ bool growsDown(ControlKind kind) {
 
 bool growsAcross(const Control& control) {
   if (control.width() > 0) return false;
-  return growsDown(control.kind()) || control.kind() == ControlKind::textBox || control.kind() == ControlKind::label ||
-         control.kind() == ControlKind::frame;
+  switch (control.kind()) {
+    case ControlKind::textBox:
+    case ControlKind::richTextBox:
+    case ControlKind::label:
+    case ControlKind::frame:
+      return true;
+    default:
+      return growsDown(control);
+  }
+}
+
+// A short text beside a button or a picture tells what it does: the two belong together.
+bool explains(const LayoutCell& text, const LayoutCell& before) {
+  const ControlKind kind = before.control->kind();
+  return text.control->kind() == ControlKind::label && !before.label &&
+         (kind == ControlKind::commandButton || kind == ControlKind::pictureBox);
 }
 
 class Page {
  public:
   Page(QWidget& page, const Form& form, const std::function<View*(const Control&)>& viewOf, int widest)
-      : grid_(new QGridLayout(&page)), form_(form), viewOf_(viewOf), widest_(widest) {
-    grid_->setColumnStretch(1, 1);
-  }
+      : layout_(new PageLayout(&page, widest)), form_(form), viewOf_(viewOf), widest_(widest) {}
 
+  // A label stands in front of its control, but behind its picture.
   void place(const LayoutRow& row) {
-    QHBoxLayout* line = nullptr;
-    int used = 0;
-    for (const LayoutCell& cell : row) {
+    std::vector<PageCell> cells;
+    for (std::size_t at = 0; at < row.size(); ++at) {
+      const LayoutCell& cell = row[at];
       if (cell.control->kind() == ControlKind::frame) fillFrame(*cell.control);
-      const int width = widthOf(cell);
-      if (!line || used + width > widest_) {
-        line = beginLine(cell);
-        used = 0;
-      } else if (cell.label) {
-        line->addWidget(widgetOf(*cell.label));
+      if (at > 0 && !cells.back().front && explains(cell, row[at - 1])) {
+        cells.back() = {cells.back().widget, widgetOf(*cell.control), true, false};
+        continue;
       }
-      used += width;
-      line->addWidget(widgetOf(*cell.control), growsAcross(*cell.control) ? 1 : 0);
-      if (growsDown(cell.control->kind())) grid_->setRowStretch(grid_->rowCount() - 1, 1);
+      if (cell.label && cell.control->kind() == ControlKind::pictureBox) {
+        cells.push_back({widgetOf(*cell.control), widgetOf(*cell.label), true, false});
+        continue;
+      }
+      const bool lastText = cell.control->kind() != ControlKind::label || row.size() == 1;
+      cells.push_back({cell.label ? widgetOf(*cell.label) : nullptr, widgetOf(*cell.control),
+                       growsAcross(*cell.control) && lastText, growsDown(*cell.control)});
     }
-    if (line && std::none_of(row.begin(), row.end(), [](const LayoutCell& c) { return growsAcross(*c.control); }))
-      line->addStretch();
+    layout_->addRow(cells);
   }
 
-  // Nothing grows down: what is left of the height stays below.
-  void finish() {
-    for (int row = 0; row < grid_->rowCount(); ++row)
-      if (grid_->rowStretch(row) > 0) return;
-    grid_->setRowStretch(grid_->rowCount(), 1);
-  }
+  PageLayout& layout() const { return *layout_; }
 
  private:
   QWidget* widgetOf(const Control& control) const { return viewOf_(control)->widget; }
-
-  int widthOf(const LayoutCell& cell) const {
-    const int space = grid_->horizontalSpacing();
-    return widgetOf(*cell.control)->sizeHint().width() + space +
-           (cell.label ? widgetOf(*cell.label)->minimumWidth() + space : 0);
-  }
-
-  // A line of the page: a label in front stands in the column of labels, so that the controls stand below each other.
-  QHBoxLayout* beginLine(const LayoutCell& first) {
-    auto* line = new QHBoxLayout;
-    const int row = grid_->count() == 0 ? 0 : grid_->rowCount();
-    if (first.label) grid_->addWidget(widgetOf(*first.label), row, 0, Qt::AlignVCenter);
-    grid_->addLayout(line, row, first.label ? 1 : 0, 1, first.label ? 1 : 2);
-    return line;
-  }
 
   void fillFrame(const Control& frame) {
     Page inside(*widgetOf(frame), form_, viewOf_, widest_);
     for (const LayoutRow& row : planRows(form_, &frame)) inside.place(row);
   }
 
-  QGridLayout* grid_;
+  PageLayout* layout_;
   const Form& form_;
   const std::function<View*(const Control&)>& viewOf_;
   int widest_;
@@ -142,10 +134,11 @@ std::vector<LayoutRow> planRows(const Form& form, const Control* frame) {
   return rows;
 }
 
-void layOut(QWidget& page, const Form& form, const std::function<View*(const Control&)>& viewOf, int widest) {
+PageLayout& layOut(QWidget& page, const Form& form, const std::function<View*(const Control&)>& viewOf, int widest) {
   Page built(page, form, viewOf, widest);
   for (const LayoutRow& row : planRows(form)) built.place(row);
-  built.finish();
+  built.layout().setContentsMargins(0, 0, 0, 0);
+  return built.layout();
 }
 
 }  // namespace zelko

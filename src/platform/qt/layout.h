@@ -10,6 +10,7 @@
 namespace zelko {
 
 struct View;
+class PageLayout;
 
 struct LayoutCell {
   Control* label = nullptr;  // stands to the left of the control
@@ -22,6 +23,6 @@ using LayoutRow = std::vector<LayoutCell>;
 std::vector<LayoutRow> planRows(const Form& form, const Control* frame = nullptr);
 
 // Lays the views out on `page`; a row that would be wider than `widest` pixels goes on in the next line.
-void layOut(QWidget& page, const Form& form, const std::function<View*(const Control&)>& viewOf, int widest);
+PageLayout& layOut(QWidget& page, const Form& form, const std::function<View*(const Control&)>& viewOf, int widest);
 
 }  // namespace zelko

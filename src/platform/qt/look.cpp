@@ -5,6 +5,7 @@
 #include <QFont>
 #include <QPainter>
 #include <QProxyStyle>
+#include <QStyleOption>
 #include <algorithm>
 
 namespace zelko {
@@ -22,6 +23,8 @@ class Style : public QProxyStyle {
     // Alt alone would take the focus away to the menu bar, unheard.
     if (hint == SH_MenuBar_AltKeyNavigation) return 0;
     if (hint == SH_UnderlineShortcut) return 1;
+    // A menu taller than the screen scrolls; a second column would be cut off, and Right would lead into it.
+    if (hint == SH_Menu_Scrollable) return 1;
     return QProxyStyle::styleHint(hint, option, widget, data);
   }
   int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
@@ -33,6 +36,26 @@ class Style : public QProxyStyle {
       return std::max(QProxyStyle::pixelMetric(metric, option, widget), height * 3 / 4);
     return QProxyStyle::pixelMetric(metric, option, widget);
   }
+  // The lines round boxes, buttons and marks are as plain as the text.
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    const bool framed = element == PE_FrameLineEdit || element == PE_Frame || element == PE_PanelButtonCommand ||
+                        element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton;
+    if (!framed || option->rect.isEmpty()) return;
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    const bool enabled = option->state.testFlag(State_Enabled);
+    painter->setPen(
+        QPen(option->palette.color(enabled ? QPalette::Active : QPalette::Disabled, QPalette::WindowText), 1.5));
+    painter->setBrush(Qt::NoBrush);
+    const QRectF line = QRectF(option->rect).adjusted(1, 1, -1, -1);
+    if (element == PE_IndicatorRadioButton)
+      painter->drawEllipse(line);
+    else
+      painter->drawRoundedRect(line, 2, 2);
+    painter->restore();
+  }
   // Captions that mix Japanese and Latin fonts are a little wider than they are measured.
   QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                          const QWidget* widget) const override {
@@ -41,6 +64,8 @@ class Style : public QProxyStyle {
     return out;
   }
 };
+
+const QStringList kEvenlySpaced = {"IPAGothic", "Noto Sans Mono CJK JP", "monospace"};
 
 void substituteFonts() {
   const auto gothic = QStringList{"IPAGothic", "Noto Sans Mono CJK JP"};
@@ -59,6 +84,11 @@ void dress(QApplication& application) {
   QFont font = QApplication::font();
   font.setPointSizeF(std::max(kLeastPoints, font.pointSizeF()));
   QApplication::setFont(font);
+}
+
+QFont evenlySpaced(QFont font) {
+  font.setFamilies(kEvenlySpaced);
+  return font;
 }
 
 FocusFrame::FocusFrame(QWidget& page) : QWidget(&page) {
@@ -98,7 +128,14 @@ bool FocusFrame::eventFilter(QObject* watched, QEvent* event) {
   return QWidget::eventFilter(watched, event);
 }
 
+bool FocusFrame::event(QEvent* event) {
+  if (event->type() == QEvent::WindowActivate || event->type() == QEvent::WindowDeactivate) update();
+  return QWidget::event(event);
+}
+
+// The keys go to one window only: the others show no focus.
 void FocusFrame::paintEvent(QPaintEvent*) {
+  if (!window()->isActiveWindow()) return;
   QPainter painter(this);
   const QColor text = palette().color(QPalette::WindowText);
   // Blue is seen on white, and yellow on black.

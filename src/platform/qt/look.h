@@ -1,6 +1,7 @@
 // How everything looks: large type, the colours of the desktop, and a frame that shows where the focus is.
 #pragma once
 
+#include <QFont>
 #include <QPointer>
 #include <QWidget>
 
@@ -12,6 +13,9 @@ namespace zelko {
 // Alt and a letter only.
 void dress(QApplication& application);
 
+// The same size of type, a full-width character as wide as two others: for what is put into columns by blanks.
+QFont evenlySpaced(QFont font);
+
 // A thick frame round the control that has the focus.
 class FocusFrame : public QWidget {
  public:
@@ -20,6 +24,7 @@ class FocusFrame : public QWidget {
   void surround(QWidget* target);
 
  protected:
+  bool event(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
   void paintEvent(QPaintEvent*) override;
 

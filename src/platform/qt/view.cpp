@@ -6,13 +6,13 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScreen>
 #include <QTimer>
 #include <algorithm>
 
 #include "platform/controls.h"
 #include "platform/form.h"
 #include "platform/qt/guard.h"
+#include "platform/qt/page.h"
 #include "platform/qt/qstring.h"
 
 namespace zelko {
@@ -21,19 +21,34 @@ namespace {
 
 constexpr int kLongestLabelLine = 48;  // characters
 
+// A text that asks for a line as long as it is, within bounds, and wraps where there is less room.
+class Caption : public QLabel {
+ public:
+  explicit Caption(QWidget* parent) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+    setWordWrap(true);
+  }
+  void show(QString text) {
+    // A path may wrap, too.
+    setText(text.replace(u'/', QStringLiteral("/\u200B")));
+  }
+  QSize sizeHint() const override {
+    const QFontMetrics metrics = fontMetrics();
+    const int longest = metrics.horizontalAdvance(u'0') * kLongestLabelLine;
+    const int wide = std::min(metrics.boundingRect({}, 0, text()).width() + metrics.height() / 2, longest);
+    return {wide, heightForWidth(wide)};
+  }
+  QSize minimumSizeHint() const override {
+    return {std::min(sizeHint().width(), fontMetrics().horizontalAdvance(u'0') * 8), fontMetrics().height()};
+  }
+};
+
 void makeLabel(View& view, QWidget* parent) {
-  auto* label = new QLabel(parent);
-  label->setTextFormat(Qt::PlainText);
-  label->setWordWrap(true);
+  auto* label = new Caption(parent);
   view.widget = label;
   view.push = [&view, label](Property property) {
     if (property != Property::caption) return;
-    label->setText(shownCaption(view.control.caption()));
-    const QFontMetrics metrics(label->font());
-    const int longest =
-        std::min(metrics.horizontalAdvance(u'0') * kLongestLabelLine, label->screen()->availableSize().width() * 3 / 4);
-    label->setMinimumWidth(
-        std::min(metrics.boundingRect({}, 0, label->text()).width() + metrics.height() / 2, longest));
+    label->show(shownCaption(view.control.caption()));
   };
 }
 
@@ -99,11 +114,8 @@ void showColours(QWidget& widget, const Control& control) {
 }
 
 void showWidth(QWidget& widget, const Control& control) {
-  if (control.width() <= 0) return;
   const int frame = widget.fontMetrics().height();
-  const int wanted = static_cast<int>(control.width() * pixelsPerTwip(widget)) + frame;
-  widget.setMinimumWidth(std::min(wanted, widget.fontMetrics().horizontalAdvance(u'0') * kLongestLabelLine));
-  widget.setMaximumWidth(std::max(wanted, widget.minimumWidth()));
+  askForWidth(widget, control.width() > 0 ? static_cast<int>(control.width() * pixelsPerTwip(widget)) + frame : 0);
 }
 
 void makeKind(View& view, QWidget* parent) {
@@ -146,10 +158,35 @@ std::unique_ptr<View> makeView(Control& control, QWidget* parent) {
   return view;
 }
 
+namespace {
+
+QString wordFor(ControlKind kind) {
+  switch (kind) {
+    case ControlKind::driveBox:
+      return QStringLiteral("ドライブ");
+    case ControlKind::folderBox:
+      return QStringLiteral("フォルダ");
+    case ControlKind::fileBox:
+      return QStringLiteral("ファイル");
+    case ControlKind::listBox:
+    case ControlKind::comboBox:
+      return QStringLiteral("一覧");
+    case ControlKind::grid:
+      return QStringLiteral("表");
+    case ControlKind::pictureBox:
+      return QStringLiteral("図");
+    default:
+      return QStringLiteral("文");
+  }
+}
+
+}  // namespace
+
 QString accessibleNameOf(const Control& control) {
-  if (control.labelledBy) return shownCaption(control.labelledBy->caption());
+  if (control.labelledBy && !control.labelledBy->caption().empty()) return shownCaption(control.labelledBy->caption());
+  if (!control.screenName.empty()) return toQt(control.screenName);
   const QString caption = shownCaption(control.caption());
-  return caption.isEmpty() ? toQt(control.fullName()) : caption;
+  return caption.isEmpty() ? wordFor(control.kind()) : caption;
 }
 
 double pixelsPerTwip(const QWidget& widget) {

@@ -9,6 +9,8 @@
 
 namespace zelko {
 
+class TextBox;
+
 struct View {
   explicit View(Control& shown) : control(shown) {}
 
@@ -36,6 +38,12 @@ QString accessibleNameOf(const Control& control);
 
 // Twips of the program as pixels: 120 of them are the width of a digit, so that widths follow the font.
 double pixelsPerTwip(const QWidget& widget);
+
+// A text box that its form is made for: it shows a long text.
+bool isLongText(const TextBox& box);
+
+// A picture that stands for something to choose.
+bool isTile(const QWidget& widget);
 
 // Makers of the kinds; they set widget, push, report and detach.
 void makeTextView(View& view, QWidget* parent);  // text box, rich text box

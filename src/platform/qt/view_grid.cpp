@@ -2,6 +2,7 @@
 #include <QAbstractTableModel>
 #include <QHeaderView>
 #include <QPainter>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QTableView>
 #include <QTimer>
@@ -107,9 +108,17 @@ class CellPainter : public QStyledItemDelegate {
 class Table : public QTableView {
  public:
   using QTableView::QTableView;
+  // All of its columns and rows, as far as a screen can sensibly show them.
   QSize sizeHint() const override {
-    constexpr int kColumns = 60, kRows = 10;
-    return {fontMetrics().horizontalAdvance(u'0') * kColumns, fontMetrics().lineSpacing() * kRows};
+    constexpr int kRows = 24;
+    const int across =
+        horizontalHeader()->length() + (verticalHeader()->isHidden() ? 0 : verticalHeader()->sizeHint().width());
+    const int rows = std::min(model() ? model()->rowCount() : 0, kRows) * verticalHeader()->defaultSectionSize();
+    const int heading = horizontalHeader()->isHidden() ? 0 : horizontalHeader()->sizeHint().height();
+    const int edge = 2 * frameWidth() + 2;
+    return QSize(across + edge + verticalScrollBar()->sizeHint().width(),
+                 rows + heading + edge + horizontalScrollBar()->sizeHint().height())
+        .expandedTo(minimumSizeHint());
   }
   QSize minimumSizeHint() const override {
     return {fontMetrics().horizontalAdvance(u'0') * 16, fontMetrics().lineSpacing() * 4};
@@ -153,6 +162,7 @@ void takeOver(Table& table, Cells& cells, const Grid& grid, bool& widthsToo) {
     table.horizontalHeader()->setVisible(grid.fixedRows > 0);
     table.verticalHeader()->setVisible(grid.fixedCols > 0);
     for (int col = 0; col < cells.columnCount(); ++col) table.setColumnWidth(col, widthOf(table, cells, grid, col));
+    table.updateGeometry();
   }
   widthsToo = false;
   const QModelIndex current = cells.current();

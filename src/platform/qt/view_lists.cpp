@@ -3,11 +3,14 @@
 #include <QComboBox>
 #include <QFontMetrics>
 #include <QListView>
+#include <QScrollBar>
 #include <QTimer>
+#include <algorithm>
 
 #include "platform/form.h"
 #include "platform/lists.h"
 #include "platform/qt/guard.h"
+#include "platform/qt/look.h"
 #include "platform/qt/qstring.h"
 #include "platform/qt/view.h"
 
@@ -41,14 +44,25 @@ class Entries : public QAbstractListModel {
 
 class TallList : public QListView {
  public:
-  using QListView::QListView;
+  TallList(const ListBox& list, QWidget* parent) : QListView(parent), list_(&list) {}
+  void detach() { list_ = nullptr; }
+  // As wide as the first of its entries, within bounds.
   QSize sizeHint() const override {
-    constexpr int kColumns = 36, kRows = 8;
-    return {fontMetrics().horizontalAdvance(u'0') * kColumns, fontMetrics().lineSpacing() * kRows};
+    constexpr int kColumns = 24, kMostColumns = 64, kRows = 8, kEntriesLookedAt = 100;
+    const QFontMetrics metrics = fontMetrics();
+    const int digit = metrics.horizontalAdvance(u'0');
+    int widest = 0;
+    for (int at = 0; list_ && at < std::min(list_->count(), kEntriesLookedAt); ++at)
+      widest = std::max(widest, metrics.horizontalAdvance(toQt(list_->entries()[static_cast<std::size_t>(at)])));
+    const int edge = verticalScrollBar()->sizeHint().width() + metrics.height() / 2;
+    return {std::clamp(widest + edge, digit * kColumns, digit * kMostColumns), metrics.lineSpacing() * kRows};
   }
   QSize minimumSizeHint() const override {
     return {fontMetrics().horizontalAdvance(u'0') * 12, fontMetrics().lineSpacing() * 3};
   }
+
+ private:
+  const ListBox* list_;
 };
 
 // A list is often filled entry by entry: the view takes everything over once, when events run again.
@@ -78,7 +92,8 @@ void clicked(ListBox& list, int row) {
 
 void makeListView(View& view, QWidget* parent) {
   auto& list = static_cast<ListBox&>(view.control);
-  auto* shown = new TallList(parent);
+  auto* shown = new TallList(list, parent);
+  shown->setFont(evenlySpaced(shown->font()));
   auto* entries = new Entries(list, shown);
   shown->setModel(entries);
   shown->setUniformItemSizes(true);
@@ -96,6 +111,7 @@ void makeListView(View& view, QWidget* parent) {
     });
   };
   view.detach = [shown, entries] {
+    shown->detach();
     entries->detach();
     shown->setModel(nullptr);
   };

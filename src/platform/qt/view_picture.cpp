@@ -97,6 +97,8 @@ class Picture : public QWidget {
 
 }  // namespace
 
+bool isTile(const QWidget& widget) { return dynamic_cast<const Picture*>(&widget) != nullptr; }
+
 void makePictureView(View& view, QWidget* parent) {
   auto* picture = new Picture(static_cast<const PictureBox&>(view.control), parent);
   view.widget = picture;

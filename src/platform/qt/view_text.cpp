@@ -11,6 +11,7 @@
 #include "platform/controls.h"
 #include "platform/form.h"
 #include "platform/qt/guard.h"
+#include "platform/qt/look.h"
 #include "platform/qt/qstring.h"
 #include "platform/qt/view.h"
 
@@ -106,41 +107,74 @@ void pushLines(QPlainTextEdit& edit, const TextBox& box) {
   edit.ensureCursorVisible();
 }
 
-// As tall as the lines it is asked to show, whatever the font.
+// A text to read beside the controls, not a box to go to.
+bool isHint(const TextBox& box) { return box.multiLine() && box.readOnly && !box.tabStop; }
+
+bool isAlone(const TextBox& box) {
+  const auto& all = box.form().controls();
+  return std::none_of(all.begin(), all.end(), [&box](const Control* c) {
+    return c != &box && (c->kind() == ControlKind::richTextBox || c->kind() == ControlKind::textBox);
+  });
+}
+
+}  // namespace
+
+bool isLongText(const TextBox& box) { return box.multiLine() && !isHint(box) && isAlone(box); }
+
+namespace {
+
+// As tall as the lines it is asked to show, whatever the font; a hint as tall as its text.
 class Lines : public QPlainTextEdit {
  public:
-  Lines(int rows, QWidget* parent) : QPlainTextEdit(parent), rows_(rows) {}
+  Lines(const TextBox& box, QWidget* parent) : QPlainTextEdit(parent), hint_(isHint(box)) {
+    constexpr int kTall = 12;
+    rows_ = isAlone(box) ? kTall : 1;
+    if (hint_) {
+      setFrameShape(QFrame::NoFrame);
+      viewport()->setAutoFillBackground(false);
+      QSizePolicy policy = sizePolicy();
+      policy.setHeightForWidth(true);
+      setSizePolicy(policy);
+    }
+    if (hint_ || rows_ > 1) return;
+    setLineWrapMode(QPlainTextEdit::NoWrap);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  }
   QSize sizeHint() const override {
     constexpr int kColumns = 40;
-    const QFontMetrics metrics = fontMetrics();
-    return {metrics.horizontalAdvance(u'0') * kColumns, metrics.lineSpacing() * rows_ + metrics.height()};
+    const int width = fontMetrics().horizontalAdvance(u'0') * kColumns;
+    if (!hint_) return {width, heightOf(rows_)};
+    const int text = fontMetrics().boundingRect({}, 0, toPlainText()).width() + 2 * edge();
+    const int wide = std::min(text, width);
+    return {wide, heightForWidth(wide)};
   }
-  QSize minimumSizeHint() const override {
-    const QFontMetrics metrics = fontMetrics();
-    return {metrics.horizontalAdvance(u'0') * 10, metrics.lineSpacing() + metrics.height()};
+  int heightForWidth(int width) const override {
+    if (!hint_) return -1;
+    const QRect room(0, 0, width - 2 * edge(), 1 << 20);
+    const int measured = fontMetrics().boundingRect(room, Qt::TextWrapAnywhere, toPlainText()).height();
+    // Lines that mix Japanese and Latin fonts are a little higher than they are measured.
+    return measured + measured / 8 + edge();
   }
+  QSize minimumSizeHint() const override { return {fontMetrics().horizontalAdvance(u'0') * 10, heightOf(1)}; }
 
  private:
+  int edge() const { return fontMetrics().height() / 2; }
+  int heightOf(int rows) const { return fontMetrics().lineSpacing() * rows + edge(); }
+
+  bool hint_;
   int rows_;
 };
 
-// A box that a form is made for is tall; one among others shows a name or a memo.
-int rowsOf(const TextBox& box) {
-  constexpr int kTall = 12, kLow = 2;
-  const auto& all = box.form().controls();
-  const auto another = [&box](const Control* c) {
-    return c != &box && (c->kind() == ControlKind::richTextBox || c->kind() == ControlKind::textBox);
-  };
-  return std::any_of(all.begin(), all.end(), another) ? kLow : kTall;
-}
-
 void makeLines(View& view, TextBox& box, QWidget* parent) {
-  auto* edit = new Lines(rowsOf(box), parent);
+  auto* edit = new Lines(box, parent);
   edit->setContextMenuPolicy(Qt::NoContextMenu);
   edit->setFocusPolicy(Qt::ClickFocus);
+  if (isLongText(box)) edit->setFont(evenlySpaced(edit->font()));
   view.widget = edit;
   view.push = [edit, &box](Property property) {
     if (property == Property::text || property == Property::selection) pushLines(*edit, box);
+    if (property == Property::text && isHint(box)) edit->updateGeometry();
   };
   view.report = [edit, &box] { reportTo(box, editedLines(*edit, box)); };
   QObject::connect(edit, &QPlainTextEdit::textChanged, edit, [&view] { reportUnlessDelivering(view); });

@@ -3,12 +3,14 @@
 #include <QCloseEvent>
 #include <QLabel>
 #include <QScreen>
+#include <QScrollBar>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
 
 #include "platform/qt/guard.h"
 #include "platform/qt/layout.h"
+#include "platform/qt/page.h"
 #include "platform/qt/qstring.h"
 
 namespace zelko {
@@ -30,8 +32,8 @@ void FormWindow::build() {
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   if (!form_->menu().empty()) {
-    auto* bar = new QMenuBar(this);
-    menu_ = std::make_unique<MenuBar>(*bar, *form_);
+    auto* bar = new QWidget(this);
+    menu_ = std::make_unique<MenuBar>(*bar, *form_, room().width());
     column->setMenuBar(bar);
   }
   scroll_ = new QScrollArea(this);
@@ -39,15 +41,14 @@ void FormWindow::build() {
   scroll_->setFrameShape(QFrame::NoFrame);
   scroll_->setFocusPolicy(Qt::NoFocus);
   page_ = new QWidget;
-  page_->setContentsMargins(kEdge, kEdge, kEdge, kEdge);
   for (Control* control : form_->controls()) {
     views_.push_back(makeView(*control, page_));
     // Sizes are asked for while the rows are laid out.
     pushTo(*views_.back(), Property::caption);
   }
-  layOut(
-      *page_, *form_, [this](const Control& control) { return viewOf(control); },
-      screen()->availableSize().width() - 8 * kEdge);
+  rows_ = &layOut(
+      *page_, *form_, [this](const Control& control) { return viewOf(control); }, room().width() - 6 * kEdge);
+  rows_->setContentsMargins(kEdge, kEdge, kEdge, kEdge);
   for (Control* control : form_->controls()) {
     View* named = viewOf(*control);
     auto* label = control->labelledBy ? qobject_cast<QLabel*>(viewOf(*control->labelledBy)->widget) : nullptr;
@@ -78,38 +79,67 @@ void FormWindow::captionChanged() {
   setAccessibleName(toQt(form_->caption()));
 }
 
+// What the screen has for a window, without the frame that the desktop puts round it.
+QSize FormWindow::room() const { return screen()->availableSize() - QSize(2 * kEdge, 6 * kEdge); }
+
 QSize FormWindow::fittingSize() const {
-  const int menu = layout()->menuBar() ? layout()->menuBar()->sizeHint().height() : 0;
-  const QSize page = page_->layout()->hasHeightForWidth()
-                         ? QSize(page_->sizeHint().width(), page_->layout()->heightForWidth(page_->sizeHint().width()))
-                         : page_->sizeHint();
-  const QSize room = screen()->availableSize() - QSize(2 * kEdge, 6 * kEdge);
-  return (page.expandedTo(page_->sizeHint()) + QSize(2 * kEdge, menu + 2 * kEdge)).boundedTo(room);
+  const QSize room(this->room().width(), std::min(this->room().height(), tallest_));
+  const QWidget* bar = layout()->menuBar();
+  int width = std::max(rows_->sizeHint().width(), bar ? bar->sizeHint().width() : 0);
+  width = std::min(width, room.width());
+  const int height = rows_->preferredHeight(width) + (bar ? bar->sizeHint().height() : 0);
+  if (height <= room.height()) return {width, height};
+  // What doesn't fit is scrolled to, beside the bar that scrolls.
+  return QSize(width + scroll_->verticalScrollBar()->sizeHint().width() + kEdge, room.height()).boundedTo(room);
 }
 
-void FormWindow::reveal(bool modal, const QWidget* above) {
+void FormWindow::reveal(bool modal, FormWindow* above) {
   // Its state may have changed while it was hidden.
   for (const auto& view : views_) pushAll(*view);
   menuChanged();
   setWindowModality(modal ? Qt::ApplicationModal : Qt::NonModal);
   setAttribute(Qt::WA_ShowWithoutActivating, above != nullptr);
-  resize(fittingSize());
+  takeSize(fittingSize());
   if (above)
-    placeBelow(*above);
+    follow(*above);
   else if (menu_)
     move(screen()->availableGeometry().topLeft());
   show();
+  // Grids take their cells over, and with them their size, when events run again.
+  growSoon();
 }
 
-void FormWindow::placeBelow(const QWidget& above) {
+// Only when its window stands is it known how much room the frame takes that the desktop puts round the one above.
+void FormWindow::follow(FormWindow& above) {
+  above_ = &above;
+  above.installEventFilter(this);
+  placeBelow();
+  constexpr int kFramed = 250;  // milliseconds
+  QTimer::singleShot(kFramed, this, [this] { placeBelow(); });
+}
+
+void FormWindow::placeBelow() {
+  if (!above_ || !form_) return;
   const QRect room = screen()->availableGeometry();
-  const QRect upper = above.frameGeometry();
-  const int title = upper.height() - above.height();
+  const int title = std::max(above_->geometry().top() - above_->frameGeometry().top(), kEdge);
   const int least = std::min(sizeHint().height(), room.height() / 3);
-  const int top = std::clamp(upper.bottom() + 1, room.top(), std::max(room.top(), room.bottom() - least - title));
-  move(upper.left(), top);
-  resize(std::clamp(width(), std::min(upper.width(), room.width()), room.width()),
-         std::clamp(height(), least, std::max(least, room.bottom() - top - title)));
+  // The one above gives way where both don't fit; what it shows is scrolled to.
+  above_->keepWithin(room.bottom() - least - title - above_->geometry().top());
+  const QRect upper = above_->frameGeometry();
+  const QSize wanted = fittingSize();
+  move(upper.left(), upper.bottom() + 1);
+  takeSize({std::clamp(wanted.width(), std::min(upper.width(), room.width()), this->room().width()),
+            std::clamp(wanted.height(), least, std::max(least, room.bottom() - upper.bottom() - title - kEdge))});
+}
+
+void FormWindow::keepWithin(int height) {
+  tallest_ = height;
+  if (this->height() > height) takeSize({width(), height});
+}
+
+bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == above_ && event->type() == QEvent::Resize && isVisible()) placeBelow();
+  return false;
 }
 
 void FormWindow::focusOn(const Control* control) {
@@ -130,16 +160,27 @@ void FormWindow::push(Control& control, Property property) {
       if (named->control.labelledBy == &control && named->widget)
         named->widget->setAccessibleName(accessibleNameOf(named->control));
   }
-  if (property == Property::caption || property == Property::visible || property == Property::drawing) growSoon();
+  if (property == Property::caption || property == Property::visible || property == Property::drawing ||
+      property == Property::width)
+    growSoon();
+}
+
+// A scroll bar that stands narrows the page, and so keeps itself needed: it has to go to be asked for again.
+void FormWindow::takeSize(QSize size) {
+  scroll_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  resize(size);
+  layout()->activate();
+  scroll_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
 }
 
 // A longer text or another control may need more room than the window has.
 void FormWindow::growSoon() {
-  if (growing_ || !isVisible()) return;
+  if (growing_ || above_ || !isVisible()) return;
   growing_ = true;
   QTimer::singleShot(0, this, [this] {
     growing_ = false;
-    if (form_ && isVisible() && !isMaximized()) resize(size().expandedTo(fittingSize()));
+    if (!form_ || !isVisible() || isMaximized()) return;
+    takeSize(size().expandedTo(fittingSize()));
   });
 }
 
@@ -155,7 +196,8 @@ void FormWindow::forget() {
   hide();
   if (menu_) menu_->detach();
   for (const auto& view : views_) {
-    if (view->widget) view->widget->disconnect();
+    // Only what we connected: Qt itself listens for the end of a widget, for the reader of the screen.
+    if (view->widget) view->widget->disconnect(view->widget);
     if (view->detach) view->detach();
   }
   views_.clear();

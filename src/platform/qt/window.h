@@ -1,6 +1,7 @@
 // The window of one form.
 #pragma once
 
+#include <QPointer>
 #include <QScrollArea>
 #include <QWidget>
 #include <memory>
@@ -12,6 +13,8 @@
 #include "platform/qt/view.h"
 
 namespace zelko {
+
+class PageLayout;
 
 class FormWindow : public QWidget {
  public:
@@ -26,7 +29,7 @@ class FormWindow : public QWidget {
 
   // Shows the window: at the left top where it has a menu, below `above` where it is shown beside another, else where
   // the desktop puts it.
-  void reveal(bool modal, const QWidget* above);
+  void reveal(bool modal, FormWindow* above);
   void focusOn(const Control* control);
   void push(Control& control, Property property);
   void captionChanged();
@@ -39,19 +42,27 @@ class FormWindow : public QWidget {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void build();
+  QSize room() const;
   QSize fittingSize() const;
+  void takeSize(QSize size);
   void growSoon();
-  void placeBelow(const QWidget& above);
+  void follow(FormWindow& above);
+  void placeBelow();
+  void keepWithin(int height);
 
   Form* form_;
   std::vector<std::unique_ptr<View>> views_;
   std::unique_ptr<MenuBar> menu_;
   QScrollArea* scroll_ = nullptr;
   QWidget* page_ = nullptr;
+  PageLayout* rows_ = nullptr;
   FocusFrame* frame_ = nullptr;
+  QPointer<FormWindow> above_;  // the one that it stands below
+  int tallest_ = QWIDGETSIZE_MAX;
   bool growing_ = false;
 };
 
