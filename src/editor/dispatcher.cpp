@@ -55,30 +55,31 @@ bool keyLeft(int) {
   return true;
 }
 
-bool toFirstRecord(int) {
+// Where the cursor stays, no cell is announced: a beep answers the key.
+bool jump(void (*go)()) {
+  const bool typed = !boxIsBlank();
+  const auto record = curRec;
+  const auto item = curItem;
+  go();
+  if (!typed && curRec == record && curItem == item) host().beep();
+  return true;
+}
+
+bool toFirstRecord(int) { return jump(goToFirstRecord); }
+
+// The release of this key speaks in any case.
+bool upToFirstRecord(int) {
   goToFirstRecord();
   return true;
 }
 
-bool toLastRecord(int) {
-  goToLastRecord();
-  return true;
-}
+bool toLastRecord(int) { return jump(goToLastRecord); }
 
-bool toNewLine(int) {
-  goToNewLine();
-  return true;
-}
+bool toNewLine(int) { return jump(goToNewLine); }
 
-bool toLastItem(int) {
-  goToLastItem();
-  return true;
-}
+bool toLastItem(int) { return jump(goToLastItem); }
 
-bool toFirstItem(int) {
-  goToFirstItem();
-  return true;
-}
+bool toFirstItem(int) { return jump(goToFirstItem); }
 
 bool insertOneRecord(int) {
   runCommand(u"mnuINSREC1");
@@ -166,7 +167,7 @@ constexpr KeyRow kKeyRows[] = {
     {key::PageDown, shift::Ctrl, toNewLine},
     {key::Up, shift::None, keyUp},
     {key::Up, shift::Ctrl, toFirstRecord},
-    {key::PageUp, shift::Ctrl, toFirstRecord},
+    {key::PageUp, shift::Ctrl, upToFirstRecord},
     {key::Right, shift::None, keyRight},
     {key::Right, shift::Ctrl, toLastItem},
     {key::Left, shift::None, keyLeft},

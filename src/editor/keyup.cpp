@@ -91,8 +91,7 @@ bool caretKey(const KeyEvent& key) {
     if (!boxText().empty() && gateOpens()) talkCaretChar();
     return true;
   }
-  const bool toEnd = key.is(key::Home, shift::None) || key.is(key::End, shift::None);
-  if (key.is(key::function(12), shift::None) || (toEnd && !trimmed(boxText()).empty())) {
+  if (key.is(key::function(12), shift::None)) {
     talkCaret();
     return true;
   }

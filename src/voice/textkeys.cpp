@@ -21,8 +21,6 @@ TextBox* activeBox() { return dynamic_cast<TextBox*>(screen().activeControl()); 
 
 bool isSidewards(int code) { return code == key::Left || code == key::Right; }
 
-bool isLineEndKey(const KeyEvent& key) { return key.is(key::Home, shift::None) || key.is(key::End, shift::None); }
-
 Text movedEnd(int code, int length) {
   if (length == selPrev) return {};
   const bool grows = length > selPrev;
@@ -87,7 +85,7 @@ void talkTextKey(int code, int mask, [[maybe_unused]] int third, TextView descri
     talkSelection(*box, code);
   } else if (isRepeatKey(key)) {
     if (gateOpens()) sayNow(box->content() + Text(description));
-  } else if (key.is(key::function(12), shift::None) || isLineEndKey(key)) {
+  } else if (key.is(key::function(12), shift::None)) {
     talkCaret();
   } else if (isSidewards(code) && mask == shift::None) {
     if (gateOpens()) talkCaretChar();
