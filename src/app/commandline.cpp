@@ -25,6 +25,8 @@ bool readFlag(const std::string& argument, CommandLine& line) {
     line.action = CommandLine::Action::help;
   else if (argument == "--version")
     line.action = CommandLine::Action::version;
+  else if (argument == "--keep-clipboard")
+    line.action = CommandLine::Action::keepClipboard;
   else
     return false;
   return true;

@@ -7,7 +7,8 @@
 namespace zelko {
 
 struct CommandLine {
-  enum class Action { run, replay, help, version, wrong };
+  // keepClipboard: what the program starts itself with, at its end.
+  enum class Action { run, replay, help, version, keepClipboard, wrong };
   Action action = Action::run;
   std::string script;     // of --replay; "-" is standard input
   std::string folder;     // of --dir; empty: the current one

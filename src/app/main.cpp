@@ -56,6 +56,7 @@ int main(int argc, char** argv) {
     case CommandLine::Action::replay:
       return replay(line);
     case CommandLine::Action::run:
+    case CommandLine::Action::keepClipboard:
       break;
   }
   return startOnDesktop(argc, argv, line);

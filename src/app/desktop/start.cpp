@@ -6,6 +6,7 @@
 
 #include "app/wiring.h"
 #include "platform/qt/desktop.h"
+#include "platform/qt/keeper.h"
 #include "speech/reader.h"
 #include "voice/talk.h"
 
@@ -45,6 +46,7 @@ int startOnDesktop(int argc, char** argv, const CommandLine& line) {
     std::cerr << "zelko: there is no display; --replay SCRIPT plays a session without one\n";
     return kNoDisplay;
   }
+  if (line.action == CommandLine::Action::keepClipboard) return keepClipboard(argc, argv);
   desktopHooks().speaks = [] { return talkMode != 0; };
   std::unique_ptr<Reader> reader;
   if (line.reader) {

@@ -20,7 +20,8 @@ struct DesktopHooks {
 DesktopHooks& desktopHooks();
 
 // Runs the program on the desktop: sets the host, calls `startProgram` and serves events until the program ends.
-// The exit status: 0, or 3 after a run-time fault, when all files were closed and the user has heard its text.
+// The exit status: 0; 1 where the display cannot be reached; 3 after a run-time fault, when all files were closed and
+// the user has heard its text.
 int runDesktop(int argc, char** argv, const std::function<void()>& startProgram);
 
 }  // namespace zelko
