@@ -55,30 +55,31 @@ bool keyLeft(int) {
   return true;
 }
 
-bool toFirstRecord(int) {
+// Where the cursor stays, no cell is announced: a beep answers the key.
+bool jump(void (*go)()) {
+  const bool typed = !boxIsBlank();
+  const auto record = curRec;
+  const auto item = curItem;
+  go();
+  if (!typed && curRec == record && curItem == item) host().beep();
+  return true;
+}
+
+bool toFirstRecord(int) { return jump(goToFirstRecord); }
+
+// The release of this key speaks in any case.
+bool upToFirstRecord(int) {
   goToFirstRecord();
   return true;
 }
 
-bool toLastRecord(int) {
-  goToLastRecord();
-  return true;
-}
+bool toLastRecord(int) { return jump(goToLastRecord); }
 
-bool toNewLine(int) {
-  goToNewLine();
-  return true;
-}
+bool toNewLine(int) { return jump(goToNewLine); }
 
-bool toLastItem(int) {
-  goToLastItem();
-  return true;
-}
+bool toLastItem(int) { return jump(goToLastItem); }
 
-bool toFirstItem(int) {
-  goToFirstItem();
-  return true;
-}
+bool toFirstItem(int) { return jump(goToFirstItem); }
 
 bool insertOneRecord(int) {
   runCommand(u"mnuINSREC1");
@@ -91,8 +92,17 @@ bool shiftDataRight(int) {
   return true;
 }
 
+// Nothing to erase there: a key that does nothing is heard as well.
+bool eraseBack(int) {
+  if (box().selStart() == 0 && box().selLength() == 0) host().beep();
+  return false;
+}
+
 bool shiftDataLeft(int) {
-  if (!boxIsBlank()) return false;
+  if (!boxIsBlank()) {
+    if (box().selStart() == static_cast<int>(box().content().size())) host().beep();
+    return false;
+  }
   runCommand(u"mnuSLEFT");
   return true;
 }
@@ -157,13 +167,14 @@ constexpr KeyRow kKeyRows[] = {
     {key::PageDown, shift::Ctrl, toNewLine},
     {key::Up, shift::None, keyUp},
     {key::Up, shift::Ctrl, toFirstRecord},
-    {key::PageUp, shift::Ctrl, toFirstRecord},
+    {key::PageUp, shift::Ctrl, upToFirstRecord},
     {key::Right, shift::None, keyRight},
     {key::Right, shift::Ctrl, toLastItem},
     {key::Left, shift::None, keyLeft},
     {key::Left, shift::Ctrl, toFirstItem},
     {key::Insert, shift::ShiftCtrl, insertOneRecord},
     {key::Insert, shift::None, shiftDataRight},
+    {key::Backspace, shift::None, eraseBack},
     {key::Delete, shift::None, shiftDataLeft},
     {'T', shift::Ctrl, fiveItems, 1},
     {'T', shift::ShiftCtrl, fiveItems, -1},
@@ -187,10 +198,6 @@ int rangeKindOf(const KeyEvent& key) {
   if (key.mask == shift::Alt) return upDown ? 2 : 3;
   if (key.mask != shift::Shift) return 0;
   return upDown || box().content().empty() ? 1 : 0;
-}
-
-bool isSumKey(const KeyEvent& key) {
-  return key.mask == shift::Ctrl && key.code >= key::Num0 && key.code <= key::Num0 + 9;
 }
 
 void sumKeyDown(int code) {
@@ -233,8 +240,8 @@ bool actOn(const KeyEvent& key) {
     runCommand(u"mnuF");
     return true;
   }
-  if (isSumKey(key)) {
-    sumKeyDown(key.code);
+  if (const int sum = sumKeyOf(key)) {
+    sumKeyDown(sum);
     return true;
   }
   bool rangeDropped = false;

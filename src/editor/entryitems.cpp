@@ -49,7 +49,7 @@ Form5::Form5() : Form(kName, u"記入項目の指定") {
   }
   Grid1.setCell(1, kMarkColumn);
   Grid1.onKeyPress = [this](CharEvent& event) { Form5_Grid1_KeyPress(event); };
-  Grid1.onClick = [this] { mark(Grid1.text() != u"Y"); };
+  Grid1.onClick = [this] { mark(true); };
   Grid1.onRowColChange = [this] {
     if (gateOpens()) talkNow(rowSentence() + kHowTo);
   };
@@ -58,7 +58,7 @@ Form5::Form5() : Form(kName, u"記入項目の指定") {
   Command2.isCancel = true;
   onClose = [this] { Form5_Command2_Click(); };
   Narration(*this)
-      .explain(u"記入項目を指定します。上下矢印キーで項目を移動し、Yｷｰで指定、ｽﾍﾟｰｽｷｰで解除します。OKで終わります。")
+      .explain(u"。記入項目を指定します。上下矢印キーで項目を移動し、Yｷｰで指定、ｽﾍﾟｰｽｷｰで解除します。OKで終わります。")
       .say(Grid1, [this] { return rowSentence() + kHowTo; })
       .say(Command1, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ")
       .say(Command2, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ");
@@ -79,6 +79,8 @@ void Form5::Form5_Grid1_KeyPress(CharEvent& event) {
     mark(true);
   else if (event.ch == u' ')
     mark(false);
+  else if (event.ch == key::Enter)
+    Form5_Command1_Click();  // closes the form
   else
     return;
   event.ch = 0;

@@ -1,10 +1,14 @@
 #include "editor/form1.h"
 
+#include <initializer_list>
+
 #include "editor/cellcommands.h"
 #include "editor/commands.h"
+#include "editor/commit.h"
 #include "editor/dispatcher.h"
 #include "editor/exit.h"
 #include "editor/menutable.h"
+#include "editor/moves.h"
 #include "editor/state.h"
 #include "platform/files.h"
 #include "platform/host.h"
@@ -15,7 +19,18 @@ namespace zelko {
 
 namespace {
 constexpr int kNumberTwips = 960;  // room for eight digits
+
+// A button that works on the cell gives the focus back first: the sentence of the input box would name the cell that
+// the cursor is about to leave, and the gate would drop what came of the command.
+void runOnCell(TextView command) {
+  {
+    const Silence silence;
+    focusInputBox();
+  }
+  if (talkMode != 0) waitSec(talkGap);
+  runCommand(command);
 }
+}  // namespace
 
 Form1::Form1() : Form(kName, u"Zelko") {
   boxCharTwips = 136;
@@ -58,11 +73,13 @@ void Form1::wireBoxes() {
   RichTextBox1.onLostFocus = [this] { RichTextBox1_LostFocus(); };
   RichTextBox2.onChange = [this] { RichTextBox2_Change(); };
   RichTextBox2.onLostFocus = [this] { RichTextBox2_LostFocus(); };
+  for (TextBox* box : std::initializer_list<TextBox*>{&RichTextBox1, &RichTextBox2, &txtLR, &Text1, &txtWIDTH})
+    box->onKeyPress = [box](CharEvent& event) { otherBox_KeyPress(*box, event); };
 }
 
 void Form1::wireButtons() {
-  Command1.onClick = [] { runCommand(u"mnuCTRLU"); };
-  Command2.onClick = [] { runCommand(u"mnuCTRLD"); };
+  Command1.onClick = [] { runOnCell(u"mnuCTRLU"); };
+  Command2.onClick = [] { runOnCell(u"mnuCTRLD"); };
   Command3.onClick = [] { runCommand(u"mnuItemList"); };
   Command4.onClick = [] { runCommand(u"mnuSPITEM"); };
   Command5.onClick = [] { runCommand(u"mnuLIMIT"); };

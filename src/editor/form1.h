@@ -89,6 +89,7 @@ class Form1 : public Form {
   void txtItemnum_Change();
   void txtItemnum_KeyPress(CharEvent& event);
   void txtItemnum_LostFocus();
+  static void otherBox_KeyPress(const TextBox& box, CharEvent& event);
   void txtLR_Change();
   void txtLR_LostFocus();
   static void selectWhole(TextBox& box);

@@ -69,6 +69,17 @@ void Form1::announceChange(const TextBox& box) {
 // Whoever comes to a box of one value wants to write another one.
 void Form1::selectWhole(TextBox& box) { box.setSelection(0, static_cast<int>(box.content().size())); }
 
+// Enter is done with the box, which stores what was changed as it is left.
+void Form1::otherBox_KeyPress(const TextBox& box, CharEvent& event) {
+  if (event.ch == key::Enter)
+    focusInputBox();
+  else if (box.readOnly)
+    host().beep();
+  else
+    return;
+  event.ch = 0;
+}
+
 void Form1::txtLR_Change() {
   if (!isFilling()) announceChange(txtLR);
 }

@@ -130,8 +130,7 @@ void frmHANI::frmHANI_Text5_KeyDown(KeyEvent& key) {
   } else if (key.is(key::Insert, shift::Ctrl)) {
     key.swallow();
     clip();
-  } else if (key.mask == shift::Ctrl && key.code >= key::Num0 && key.code <= key::Num0 + 9) {
-    const int code = key.code;
+  } else if (const int code = sumKeyOf(key)) {
     key.swallow();
     sum(code);
   } else if (moveWhileChoosing(key)) {
@@ -206,11 +205,13 @@ void frmHANI::sum(int code) {
   catchUp();
   if (!sumFitsRange(code)) return host().beep();
   leaving_ = true;
-  const bool leavesFirst = !isPlainSum(code);  // a formula works in the input box
-  if (!leavesFirst) sumKeyOnRange(code);
+  if (isPlainSum(code) && sumKeyOnRange(code) && agentOn != 1) {
+    const Silence silence;  // a sentence would take the place of the sum on the clipboard
+    return frmHANI_Command1_Click();
+  }
   talkLast = 0;
   frmHANI_Command1_Click();
-  if (leavesFirst) sumKey(code);
+  if (!isPlainSum(code)) sumKey(code);  // a formula works in the input box
 }
 
 // --- The end -------------------------------------------------------------------------------------------------

@@ -58,7 +58,11 @@ frmItemList::frmItemList() : Form(kName, u"項目一覧") {
   List1.onClick = [this] {
     if (List1.listIndex() >= 0 && gateOpens()) talkNow(List1.text() + markPause + u"ｺｳﾓｸﾘｽﾄﾎﾞｯｸｽ");
   };
-  Narration(*this).explain(entry).say(List1, entry, true).say(Command1, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ").say(Command2, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ");
+  Narration(*this)
+      .explain([entry] { return markStop + entry(); })
+      .say(List1, entry, true)
+      .say(Command1, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ")
+      .say(Command2, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ");
 }
 
 void frmItemList::frmItemList_Command2_Click() {

@@ -102,7 +102,7 @@ void rangeInsert() {
 void clearRangeData() {
   if (refusedAsReadOnly()) return;
   if (rangeKind != 0) return clearBlock(heldBlock());
-  showOK(u"shift+矢印ｷｰで消去部分の範囲を指定した上で本メニューを選択して下さい。", u"消去範囲の先指定要");
+  showOK(u"shift+矢印ｷｰで消去部分の範囲を指定した上で本メニューを選択して下さい", u"消去範囲の先指定要");
 }
 
 void registerRangeCommands() { registerCommand(u"mnuZDEL", clearRangeData); }

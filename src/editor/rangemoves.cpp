@@ -73,7 +73,7 @@ void startRecordMoveByMenu() {
   if (rangeKind == 2) return startRecordMove(firstRecordTarget(heldBlock(), recCount(), 1) > 0 ? 1 : -1);
   showOK(
       u"alt+上下矢印ｷｰで移動する記録の範囲を指定した上で本メニューを選択するか、上下矢印ｷｰを叩いて下さい。"
-      u"移動先指定画面が表示されます。",
+      u"移動先指定画面が表示されます",
       u"移動範囲の先指定要");
 }
 
@@ -82,7 +82,7 @@ void startItemMoveByMenu() {
   if (rangeKind == 3) return startItemMove(firstItemTarget(heldBlock(), 1) >= 0 ? 1 : -1);
   showOK(
       u"alt+左右矢印ｷｰで移動する項目の範囲を指定した上で本メニューを選択するか、左右矢印ｷｰを叩いて下さい。"
-      u"移動先指定画面が表示されます。",
+      u"移動先指定画面が表示されます",
       u"移動範囲の先指定要");
 }
 

@@ -50,69 +50,77 @@ Text cutToWidth(const Text& digits, int width) {
   return fromSjis(toSjis(digits + u"%").substr(0, static_cast<std::size_t>(width)));
 }
 
-void offer(const Sum& sum) {
+// True where the sum is now on the clipboard.
+bool offer(const Sum& sum) {
   const Text digits = trimmed(str(sum.value));
   const int width = itemWidth[static_cast<std::size_t>(curItem)];
   const bool fits = static_cast<int>(sjisLength(digits)) <= width;
   if (!askYesNo(question(sum, digits, fits), sum.title)) {
     emptyInputBox();
-    return;
+    return false;
   }
   if (sumMark == kToClipboard) {
-    keepClip();
-    host().setClipboard(digits);
     userClip = digits;
-    return;
+    putForUser(digits);
+    return true;
   }
-  if (!fits && !askOK(u"合計=" + digits, u"横合計　項目幅超過")) {
+  if (!fits && !askOK(u"合計=" + digits, u"横合計　項目幅超過"))
     emptyInputBox();
-    return;
-  }
-  fillInputBox(fits ? digits : cutToWidth(digits, width));
+  else
+    fillInputBox(fits ? digits : cutToWidth(digits, width));
+  return false;
 }
 
-void rowSum() {
+bool rowSum() {
   Sum sum{u"横合計", u"指定項目範囲(", u"項目1～", 1, curItem - 1};
   if (rangeKind != 0) {
     sum.first = std::min(rangeItem1, rangeItem2);
     sum.last = std::max(rangeItem1, rangeItem2);
   }
   for (std::int32_t item = sum.first; item <= sum.last; ++item) sum.value += val(cellOfRow(currentRow(), item));
-  offer(sum);
+  return offer(sum);
 }
 
-void columnSum() {
+bool columnSum() {
   Sum sum{u"縦合計", u"指定行範囲(", u"行1～", 1, curRec - 1};
   if (rangeKind != 0) {
     sum.first = std::min(rangeRec1, rangeRec2);
     sum.last = std::max(rangeRec1, rangeRec2);
   } else if (curRec < 2) {
     host().beep();
-    return;
+    return false;
   }
   for (std::int32_t record = sum.first; record <= sum.last; ++record) {
     getRec(1, record, recCache[1]);
     sum.value += val(cellOfCur(curItem));
     host().letEventsThrough();
   }
-  offer(sum);
+  return offer(sum);
 }
 
 }  // namespace
 
+int sumKeyOf(const KeyEvent& key) {
+  if (key.mask != shift::Ctrl) return 0;
+  if (key.code >= key::Num0 && key.code <= key::Num0 + 9) return key.code;
+  const bool upperRow = key.code >= key::Digit0 && key.code <= key::Digit0 + 9;
+  return upperRow ? key.code - key::Digit0 + key::Num0 : 0;
+}
+
 void sumKey(int code) {
-  if (code == key::Num0) return rowSum();
-  if (code == key::Num0 + 1) return columnSum();
+  if (code == key::Num0) return void(rowSum());
+  if (code == key::Num0 + 1) return void(columnSum());
   if (code == key::Num0 + 2) return runCommand(u"mnuHENSA");
   if (code > key::Num0 + 2 && code <= key::Num0 + 9) return formulaKey(code);
   host().beep();
 }
 
-void sumKeyOnRange(int code) {
+bool sumKeyOnRange(int code) {
   const double kept = sumMark;
   sumMark = kToClipboard;
-  sumKey(code);
+  const bool copied = code == key::Num0 ? rowSum() : columnSum();
   sumMark = kept;
+  return copied;
 }
 
 }  // namespace zelko

@@ -1,14 +1,18 @@
 // The small commands that work on one cell, one record, or the way the cursor walks.
 #pragma once
 
+#include "platform/keys.h"
 #include "platform/text.h"
 
 namespace zelko {
 
 // Keypad digit 96..105: row sum, column sum, scores, formulas. Any other code beeps.
 void sumKey(int code);
-// The same on the held range: the sum is offered to the clipboard.
-void sumKeyOnRange(int code);
+// The keypad digit that Ctrl and a digit stand for, of the keypad or of the upper row (many keyboards have no keypad);
+// 0 for any other key.
+int sumKeyOf(const KeyEvent& key);
+// Keypad 0 or 1 on the held range: the sum is offered to the clipboard. True where it is there now, and heard.
+bool sumKeyOnRange(int code);
 
 void idAuto();    // numbering of the ID item on or off
 void setLimit();  // sets or clears inputLimit

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "files/othertables.h"
 #include "files/pickerwords.h"
 #include "platform/files.h"
 #include "store/itemfile.h"
@@ -43,6 +44,10 @@ bool isSameFile(TextView one, TextView other) {
 bool deleteTable(TextView dataFile, TextView itemFile) {
   if (isInEdit(dataFile, itemFile)) {
     tellFailure(u"作業中のﾌｧｲﾙは削除出来ません", u"確認");
+    return false;
+  }
+  if (itemFileIsDataOfOther(dataFile)) {
+    tellFailure(nameIn(itemFile) + u"は他の表の記録です。削除出来ません", u"確認");
     return false;
   }
   if (!askYesNo(nameIn(dataFile) + u"を削除します。記録も項目も元に戻せません。よろしいですか", u"確認")) return false;

@@ -8,6 +8,7 @@
 #include "files/designform.h"
 #include "files/diskform.h"
 #include "files/diskopening.h"
+#include "files/othertables.h"
 #include "files/pickerwords.h"
 #include "platform/files.h"
 #include "platform/host.h"
@@ -31,6 +32,11 @@ Text asItStands(const Text& dataFile) { return findIgnoringCase(dataFile).value_
 bool standsAlready(const Text& dataFile) { return fileExists(dataFile) || fileExists(itemFilePath(dataFile, {})); }
 
 bool mayReplaceDesign(const Text& dataFile) {
+  if (takesFilesOfOther(dataFile)) {
+    tellFailure(u"他の表のﾌｧｲﾙと重なる名前です。別のﾌｧｲﾙ名にして下さい", kConfirm);
+    return false;
+  }
+  if (waitsForItsRecords(dataFile)) return false;
   if (!standsAlready(dataFile)) return true;
   return askYesNo(
       spokenName(dataFile) +

@@ -86,8 +86,8 @@ void frmDESIGN::wireBoxes() {
   text3.onChange = [this] { frmDESIGN_box_Change(text3, lastFile_); };
   for (RichTextBox* box : {&text1, &text2, &text3})
     box->onKeyDown = [this, box](KeyEvent& key) { frmDESIGN_box_KeyDown(*box, key); };
-  // Typing replaces the number and the name, and goes on behind the memo.
-  for (RichTextBox* box : {&text1, &text3}) {
+  // Typing replaces the number, the name and the cell, and goes on behind the memo.
+  for (RichTextBox* box : {&text1, &text3, &itemin}) {
     box->onGotFocus = [this, box] {
       box->setSelection(0, static_cast<int>(box->content().size()));
       marked_ = true;
@@ -102,7 +102,6 @@ void frmDESIGN::wireBoxes() {
 
 void frmDESIGN::wireCells() {
   itemin.labelledBy = &Label3;
-  itemin.onGotFocus = [this] { marked_ = isWholeMarked(itemin); };
   itemin.onKeyDown = [this](KeyEvent& key) { frmDESIGN_itemin_KeyDown(key); };
   itemin.onKeyPress = [this](CharEvent& event) { frmDESIGN_itemin_KeyPress(event); };
   itemin.onChange = [this] { frmDESIGN_itemin_Change(); };

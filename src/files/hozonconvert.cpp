@@ -121,6 +121,12 @@ Conversion convert(const Text& source, const Text& fullName) {
   return done;
 }
 
+bool canBeRead(const Text& source) {
+  const bool opened = openInput(kText, source) == FileError::none;
+  closeFile(kText);
+  return opened;
+}
+
 bool isInTheWay(const Text& source, const Text& fullName) {
   const bool isSource = isSameFile(fullName, source);
   const bool isOpen = !docPath.empty() && isSameFile(fullName, joinName(docDrive, docPath));
@@ -157,6 +163,7 @@ void showConverted(const Text& fullName) {
 void runConversion(const Text& fullName) {
   const Text source = pickedFile();
   if (isInTheWay(source, fullName)) return;
+  if (!canBeRead(source)) return tellFailure(u"変換元のﾌｧｲﾙが読めません", u"ファイル読み込みエラー");
   if (!mayTakeOutput(fullName)) return tellNotOpened();
   if (fileExists(fullName) && !askYesNo(spokenName(fullName) + u"は既にあります。上書きしますか。", kConfirm)) return;
   const Conversion done = convert(source, fullName);

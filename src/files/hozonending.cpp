@@ -1,6 +1,7 @@
 #include "files/hozonending.h"
 
 #include "files/diskopening.h"
+#include "files/othertables.h"
 #include "platform/files.h"
 #include "platform/form.h"
 #include "store/itemfile.h"
@@ -56,9 +57,8 @@ void OutputBefore::putBack() const {
 }
 
 bool mayTakeOutput(const Text& fullName) {
-  if (folderExists(fullName) || isReadOnly(fullName)) return false;
-  TableDescription itemFile;
-  return !fileExists(fullName) || readDescription(fullName, itemFile) != ReadResult::ok;
+  return !folderExists(fullName) && !isReadOnly(fullName) && !takesFilesOfOther(fullName) &&
+         !waitsForItsRecords(fullName);
 }
 
 }  // namespace zelko

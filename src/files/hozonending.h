@@ -29,7 +29,8 @@ class OutputBefore {
   CacheRow tail_{};  // what is no whole record at its end; a new record takes its place
 };
 
-// Whether a file may take output: not read-only, no folder, and not the item file of a table.
+// Whether a file may take output: not read-only, no folder, and nothing of another table is lost by it. For a table
+// whose rewrite was interrupted the user is asked whether to finish that first.
 bool mayTakeOutput(const Text& fullName);
 
 }  // namespace zelko

@@ -1,5 +1,7 @@
 #include "files/lunch.h"
 
+#include <utility>
+
 #include "editor/commands.h"
 #include "editor/form1.h"
 #include "editor/speechmenu.h"
@@ -24,7 +26,8 @@ namespace zelko {
 namespace {
 
 constexpr Colour kWhite = 0xFFFFFF;
-constexpr int kTick = 1000;       // milliseconds
+// Milliseconds. Off the whole second: keys that come once a second would all meet the gate shut by a tick.
+constexpr int kTick = 700;
 constexpr int kTileTwips = 2640;  // room for 22 characters, so that the tiles stand in columns
 constexpr TextView kMeasuredText = u"012345678901234567890";  // its width gives that of a cell's character
 
@@ -267,6 +270,7 @@ void FrmLunch::FrmLunch_Command3_Click() {
 void FrmLunch::FrmLunch_Check2_Click() {
   if (switching_) return;
   talkMode = Check2.value() == 1 ? 2 : 0;
+  clipOwed_ = talkMode == 0;
   showSpeechState();
   talkGated(u"チェック" + markPause + Check2.caption() + u"ﾁｪｯｸﾎﾞｯｸｽ");
 }
@@ -274,6 +278,8 @@ void FrmLunch::FrmLunch_Check2_Click() {
 void FrmLunch::FrmLunch_Check2_LostFocus() {
   if (talkMode != 0) return;
   Text4.setVisible(false);
+  // A program that has been silent all along owes nothing: what stands there may be newer than what it set aside.
+  if (!std::exchange(clipOwed_, false)) return;
   if (agentOn == 1)
     form<frmAGENT>().Text1.setText(userClip);
   else if (host().clearClipboard())

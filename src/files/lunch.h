@@ -68,6 +68,7 @@ class FrmLunch : public Form {
   void FrmLunch_Check2_LostFocus();
 
   int ticks_ = 0;
+  bool clipOwed_ = false;   // the box has silenced the program; the user's clipboard is given back when it is left
   bool switching_ = false;  // a key ticks the box and says the level itself
 };
 

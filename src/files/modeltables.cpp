@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "files/othertables.h"
 #include "platform/files.h"
 #include "voice/talk.h"
 
@@ -32,6 +33,7 @@ const ModelTable* modelTable(int index) {
 }
 
 bool healModelTable(const ModelTable& model) {
+  if (waitsForItsRecords(inFolder(model.data))) return false;
   if (findIgnoringCase(inFolder(model.items))) return true;
   if (!fileExists(inFolder(model.storedData)) || !fileExists(inFolder(model.storedItems))) return false;
   const bool dataStood = fileExists(inFolder(model.data));

@@ -14,8 +14,8 @@ struct ModelTable {
 // Null for an index that is none.
 const ModelTable* modelTable(int index);
 
-// When the item file of the model can't be opened, both stored files are copied into place. False, and nothing new is
-// left behind, where that fails.
+// When the item file of the model can't be opened, both stored files are copied into place; an interrupted rewrite of
+// the table comes first. False, and nothing new is left behind, where that fails or the user does not let it finish.
 bool healModelTable(const ModelTable& model);
 
 }  // namespace zelko

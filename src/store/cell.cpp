@@ -34,7 +34,11 @@ void computeItemStart() {
 
 Text cellOfRow(const CacheRow& row, int item) {
   const Span span = spanOf(item);
-  return fromSjis({row.data() + span.start, span.length});
+  const std::size_t end = span.start + span.length;
+  const bool holdsLineEnd = end > kDataBytes && row[kDataBytes] == '\r' && row[kDataBytes + 1] == '\n';
+  if (!holdsLineEnd) return fromSjis({row.data() + span.start, span.length});
+  const std::size_t cut = std::max<std::size_t>(span.start, kDataBytes);
+  return fromSjis({row.data() + span.start, cut - span.start}) + Text(end - cut, u' ');
 }
 
 Text cellOfCur(int item) { return cellOfRow(recCache[1], item); }

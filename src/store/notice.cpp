@@ -10,6 +10,8 @@ void tellFailure(TextView text, TextView title) {
   if (talkMode != 0) waitSec(talkGap);
   host().beep();
   showOK(text, title);
+  // The box below has said where it stood before the key; what the key leads to is heard too.
+  talkLast = 0;
 }
 
 void tellReadOnly() {

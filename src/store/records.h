@@ -32,7 +32,8 @@ void loadCache(std::int32_t record);
 // One record back, keeping the other rows.
 void cacheScrollUp();
 
-// The cell of `item`, cut by bytes, blanks included; the record is that of row 1, or any row.
+// The cell of `item`, cut by bytes, blanks included; the record is that of row 1, or any row. The line end of the
+// record counts as two blanks.
 Text cellOfCur(int item);
 Text cellOfRow(const CacheRow& row, int item);
 // Copies the row of `record` to row 1, where cellOfCur cuts; a record outside the cache is read from disk.

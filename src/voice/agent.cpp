@@ -55,6 +55,7 @@ frmAGENT::frmAGENT()
   Text1.tabStop = false;  // the channel, not a box to type into
   Text1.onChange = [this] { frmAGENT_Text1_Change(); };
   Command1.onClick = [this] { frmAGENT_Command1_Click(); };
+  Command1.onGotFocus = [this] { sentence_ = Text1.content(); };
   wireOptions();
   onUnload = [] { character().unload(); };
   onKeyDown = [this](KeyEvent& key) {
@@ -68,6 +69,7 @@ frmAGENT::frmAGENT()
   narration.explain(u"話すキャラクタを　選びます。声の　速さと　高さも　ここで　えらびます。")
       .say(Command1, u"。いまの　文を　もう一度　話します。ｺﾏﾝﾄﾞﾎﾞﾀﾝ")
       .say(Command2, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ");
+  appendHandler(Command1.onGotFocus, [this] { giveBackSentence(); });
   for (Control* control : controls()) {
     const auto* option = dynamic_cast<OptionButton*>(control);
     if (!option) continue;
@@ -86,7 +88,14 @@ void frmAGENT::wireOptions() {
   }
 }
 
+void frmAGENT::giveBackSentence() {
+  givingBack_ = true;
+  Text1.setText(sentence_);
+  givingBack_ = false;
+}
+
 void frmAGENT::frmAGENT_Text1_Change() {
+  if (givingBack_) return;
   character().stop();
   if (!Text1.content().empty()) character().speak(speedTag_ + Text1.content());
 }

@@ -26,6 +26,7 @@ class frmAGENT : public Form {
   void wireOptions();
   void frmAGENT_Text1_Change();
   void frmAGENT_Command1_Click();
+  void giveBackSentence();
   void frmAGENT_Option1_Click(int index);
   void frmAGENT_Option2_Click(int index);
   void frmAGENT_Option3_Click(int index);
@@ -34,6 +35,9 @@ class frmAGENT : public Form {
 
   // In front of each sentence; the last choice of speed or pitch alone holds.
   Text speedTag_;
+  // What is to be said again: the name of the button that does so must not take its place.
+  Text sentence_;
+  bool givingBack_ = false;
 };
 
 }  // namespace zelko

@@ -24,7 +24,12 @@ CacheRow cursorRow() {
   return row;
 }
 
-Text cellOf(int item) { return trimmed(cellOfRow(cursorRow(), item)); }
+// A last cell that reaches over the end of its line holds that too, which is nothing to be heard.
+Text cellOf(int item) {
+  Text cell = cellOfRow(cursorRow(), item);
+  while (cell.ends_with(u'\r') || cell.ends_with(u'\n')) cell.pop_back();
+  return trimmed(cell);
+}
 
 Text orWord(Text text, TextView word) { return text.empty() ? Text(word) : text; }
 

@@ -138,7 +138,15 @@ void handToUser(TextView text) {
     toCharacter(text);
     return;
   }
-  if (host().clearClipboard()) host().setClipboard(text);
+  putForUser(text);
+}
+
+void putForUser(TextView text) {
+  if (!host().clearClipboard()) return;
+  if (talkMode != 0 && agentOn != 1)
+    host().sayOnClipboard(text);
+  else
+    host().setClipboard(text);
 }
 
 void resetTalk() {

@@ -46,9 +46,11 @@ void talkAgain();
 // Freezes the program. A wait across midnight ends in the overflow fault.
 void waitSec(double seconds);
 
-// Puts a text for the user on the channel (clipboard, or the character), keepClip first: for data handed over, not for
-// speech.
+// Puts a text for the user on the channel (clipboard, or the character), keepClip first: data handed over, whole and
+// past the gate, also in a silent run.
 void handToUser(TextView text);
+// Puts it on the clipboard, whichever channel speaks. Where the clipboard is the channel, the text is heard.
+void putForUser(TextView text);
 
 // zlkTalk and mAgent in appDir; what can't be read leaves 0.
 void readSpeechSettings();

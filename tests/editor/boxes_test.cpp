@@ -79,7 +79,7 @@ TEST_CASE_FIXTURE(EditorFixture, "item name and memo go to the item file when th
 
 TEST_CASE_FIXTURE(EditorFixture, "a comma or a line end in name or memo is refused") {
   for (const char* box : {"RichTextBox1", "RichTextBox2"}) {
-    for (const char* key : {"type ,", "Enter"}) {
+    for (const char* key : {"type ,", "commit \\n"}) {
       CAPTURE(box);
       CAPTURE(key);
       open(kItems, kRecords, 1);

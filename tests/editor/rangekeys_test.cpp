@@ -154,7 +154,7 @@ TEST_CASE_FIXTURE(RangeFixture, "sums of a range go to the clipboard, chosen or 
       {{"Right", "Right", "Alt+Right", "Enter", "Ctrl+Num1"}, "縦合計計算しました。指定行範囲(1～ 4)の合計=100", "100"},
   };
   for (const Row& row : rows) {
-    table(4, 0);
+    table(4);
     play(row.keys);
     CHECK(utf8(dynamic_cast<Label*>(screen().activeForm()->find(u"lblMSG"))->caption()) ==
           std::string(row.question) + "\rクリップボードにコピーしますか？");

@@ -6,6 +6,7 @@
 
 #include "files/files_fixture.h"
 #include "files/hozonname.h"
+#include "platform/files.h"
 #include "platform/sjis.h"
 #include "store/cursor.h"
 #include "store/records.h"
@@ -180,8 +181,13 @@ TEST_CASE_FIXTURE(FilesFixture,
   writeBytes(path("b.txt"), "kept");
   play({"key Enter", "key Ctrl+A", "commit b.txt"});
   CHECK(play({"key Enter"}).find("は既にあります。上書きしますか。") != std::string::npos);
-  play({"key N", "key Esc", "key Esc"});
   CHECK(readBytes(path("a.txt")) == "line\r\n");
+  // A source that is gone by now is no failed write.
+  deleteFile(fromUtf8(path("a.txt")));
+  play({"key N", "key Ctrl+A", "commit c.txt"});
+  CHECK(play({"key Enter"}) == "beep / 変換元のﾌｧｲﾙが読めません。OKならCRを叩いてください。");
+  CHECK_FALSE(fileExists(fromUtf8(path("Kc.txt"))));
+  play({"key Enter", "key Esc", "key Esc"});
   CHECK(readBytes(path("b.txt")) == "kept");
   CHECK(readBytes(path("t.txt")) == data);
   CHECK(play({"show forms"}) == "forms frmSHEET Form1");

@@ -107,14 +107,16 @@ TEST_CASE("the user's clipboard is kept, the closing mark of a sentence is not")
   CHECK(session.host().clipboard() == u"わたしの文");
 }
 
-TEST_CASE("what is handed to the user is no sentence") {
-  Fixture session;
-  startSpeech(session, 0);
-  session.host().copyElsewhere(u"まえ");
-  session.run([] { handToUser(u"データ"); });
-  CHECK(session.said().empty());
-  CHECK(session.host().clipboard() == u"データ");
-  CHECK(kept() == "まえ");
+TEST_CASE("what is handed to the user goes out as it is, and is heard where the clipboard speaks") {
+  for (const std::int16_t speech : {std::int16_t{0}, std::int16_t{2}}) {
+    Fixture session;
+    startSpeech(session, speech);
+    session.host().copyElsewhere(u"まえ");
+    session.run([] { handToUser(u"、データ "); });
+    CHECK(session.said() == (speech == 0 ? "" : "、データ "));
+    CHECK(session.host().clipboard() == u"、データ ");
+    CHECK(kept() == "まえ");
+  }
 }
 
 TEST_CASE("a silent run says, waits and composes nothing") {
@@ -161,6 +163,9 @@ TEST_CASE("the talking character takes the place of the clipboard") {
   CHECK(heard[0] == "agent \\Spd=500スピード2");
   CHECK(heard[1] == "agent \\PIT=0\\高さ1");
   CHECK(heard[2] == "agent \\PIT=0\\文");
+  session.run([] { talkNow(Text(u"もう一度")); });
+  session.click("frmAGENT.Command1");
+  CHECK(session.events().back() == "agent もう一度");
 }
 
 TEST_CASE("speech settings survive a run, and a rotten file is no setting") {
