@@ -19,7 +19,15 @@ namespace zelko {
 
 namespace {
 
-constexpr int kLongestLabelLine = 48;  // characters
+constexpr int kLongestLabelLine = 48;   // characters
+constexpr int kLongestButtonLine = 20;  // characters
+
+// A long caption stands in two lines, parted where it names two things, else in the middle.
+QString folded(QString caption) {
+  if (caption.size() <= kLongestButtonLine) return caption;
+  const qsizetype slash = caption.indexOf(u'/');
+  return caption.insert(slash >= 0 ? slash + 1 : caption.size() / 2, u'\n');
+}
 
 // A text that asks for a line as long as it is, within bounds, and wraps where there is less room.
 class Caption : public QLabel {
@@ -58,7 +66,7 @@ void makeButton(View& view, QAbstractButton* button) {
   button->setAutoExclusive(false);
   view.widget = button;
   view.push = [&view, button](Property property) {
-    if (property == Property::caption) button->setText(toQt(view.control.caption()));
+    if (property == Property::caption) button->setText(folded(toQt(view.control.caption())));
     if (property == Property::value && button->isCheckable()) button->setChecked(view.control.value() != 0);
   };
   QObject::connect(button, &QAbstractButton::clicked, button, [&view] {
