@@ -2,6 +2,7 @@
 #include "editor/formula.h"
 
 #include "editor/clip_session.h"
+#include "editor/fomula.h"
 #include "platform/fault.h"
 #include "platform/number.h"
 #include "store/cursor.h"

@@ -1,6 +1,7 @@
 // Choosing a range: the keys of the dialog, what each is answered with, and how it is left.
 #include <doctest/doctest.h>
 
+#include "editor/hani.h"
 #include "editor/range_fixture.h"
 #include "editor/view.h"
 #include "platform/routing.h"
@@ -11,7 +12,7 @@ using namespace zelko::test;
 
 namespace {
 
-const std::string kRed = "255", kPink = "12632319";
+const std::string kRed = "255";
 
 bool ends(const Heard& heard, const std::string& tail) { return !heard.empty() && heard.back().ends_with(tail); }
 

@@ -3,6 +3,7 @@
 #include <doctest/doctest.h>
 
 #include "fixture.h"
+#include "voice/names.h"
 #include "voice/talk.h"
 
 using namespace zelko;
