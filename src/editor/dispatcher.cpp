@@ -55,31 +55,30 @@ bool keyLeft(int) {
   return true;
 }
 
-// Where the cursor stays, no cell is announced: a beep answers the key.
-bool jump(void (*go)()) {
-  const bool typed = !boxIsBlank();
-  const auto record = curRec;
-  const auto item = curItem;
-  go();
-  if (!typed && curRec == record && curItem == item) host().beep();
-  return true;
-}
-
-bool toFirstRecord(int) { return jump(goToFirstRecord); }
-
-// The release of this key speaks in any case.
-bool upToFirstRecord(int) {
+bool toFirstRecord(int) {
   goToFirstRecord();
   return true;
 }
 
-bool toLastRecord(int) { return jump(goToLastRecord); }
+bool toLastRecord(int) {
+  goToLastRecord();
+  return true;
+}
 
-bool toNewLine(int) { return jump(goToNewLine); }
+bool toNewLine(int) {
+  goToNewLine();
+  return true;
+}
 
-bool toLastItem(int) { return jump(goToLastItem); }
+bool toLastItem(int) {
+  goToLastItem();
+  return true;
+}
 
-bool toFirstItem(int) { return jump(goToFirstItem); }
+bool toFirstItem(int) {
+  goToFirstItem();
+  return true;
+}
 
 bool insertOneRecord(int) {
   runCommand(u"mnuINSREC1");
@@ -167,7 +166,7 @@ constexpr KeyRow kKeyRows[] = {
     {key::PageDown, shift::Ctrl, toNewLine},
     {key::Up, shift::None, keyUp},
     {key::Up, shift::Ctrl, toFirstRecord},
-    {key::PageUp, shift::Ctrl, upToFirstRecord},
+    {key::PageUp, shift::Ctrl, toFirstRecord},
     {key::Right, shift::None, keyRight},
     {key::Right, shift::Ctrl, toLastItem},
     {key::Left, shift::None, keyLeft},

@@ -84,6 +84,9 @@ void followCursor() {
 frmHANI::frmHANI() : Form(kName, kTitles[kindIndex()]) {
   Text1.labelledBy = &Label1;
   Text3.labelledBy = &Label3;
+  Text2.place = Text4.place = Place::sameRow;
+  Text2.screenName = u"記録(行)";
+  Text4.screenName = u"項目(列)";
   Text5.readOnly = true;
   Text5.invisible = true;
   Command2.isDefault = true;

@@ -3,7 +3,6 @@
 
 #include "platform/controls.h"
 #include "platform/form.h"
-#include "platform/host.h"
 #include "platform/number.h"
 #include "voice/names.h"
 #include "voice/narration.h"
@@ -97,9 +96,7 @@ void talkTextKey(int code, int mask, [[maybe_unused]] int third, TextView descri
 void talkCaretChar() {
   const TextBox* box = activeBox();
   if (!box || talkMode == 0) return;
-  const Text ch = mid(box->content(), static_cast<std::size_t>(box->selStart()) + 1, 1);
-  if (ch.empty()) return host().beep();  // behind the last one
-  sayNow(charName(ch));
+  sayNow(charName(mid(box->content(), static_cast<std::size_t>(box->selStart()) + 1, 1)));
 }
 
 void talkCaret() {

@@ -74,26 +74,6 @@ TEST_CASE("stock tables are whole; model tables are empty and of the shape that 
   CHECK(stockTable("サンプル試験結果", 16, 2).size() >= 40);
 }
 
-TEST_CASE("the sample board marks the sample exam: absent people and scores far apart") {
-  const Strings board = split(bytesOf(kRoot + "assets/stock/サンプル試験結果.0__"), "\r\n");
-  REQUIRE(board.size() == 5 + 3 * 10);
-  std::set<unsigned long> items;
-  for (std::size_t row = 1; row < board.size(); row += row < 5 ? 1 : 3) items.insert(std::stoul(board[row]));
-  CHECK((items.size() == 14 && *items.begin() == 1 && *items.rbegin() == 14));  // none stands twice
-  int absent = 0;
-  std::set<int> scores;
-  for (const Strings& person : stockTable("サンプル試験結果", 16, 2)) {
-    absent += std::all_of(person.begin() + 1, person.end(),
-                          [](const std::string& cell) { return cell.find_first_not_of(" *") == std::string::npos; });
-    int score = 0;
-    for (std::size_t row = 5; row < board.size(); row += 3)
-      if (person.at(std::stoul(board[row])) == board[row + 1]) score += std::stoi(board[row + 2]);
-    scores.insert(score);
-  }
-  CHECK(absent == 3);
-  CHECK((scores.size() > 15 && *scores.rbegin() == 100));
-}
-
 TEST_CASE("help texts can be heard line by line") {
   for (const char* name : {"readme", "音声案内について", "ﾃｷｽﾄﾃﾞｰﾀの記入のしかた", "Zelkoについて",
                            "コードファイルを利用した置換機能について", "並べかえについて"}) {

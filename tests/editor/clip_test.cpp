@@ -31,28 +31,6 @@ std::string clip(int records, int items, const std::string& cells) {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(ClipSession, "a copy writes the file, hands the text over and drops the range") {
-  select(1, 2, 1, 2, 1);
-  run([this] { host().setClipboard(u"my own"); });
-  (void)events();
-  bool copied = false;
-  run([&] { copied = clipCopy(); });
-  CHECK(copied);
-  CHECK(file("ZLKCLip") == kClip);
-  CHECK(rangeKind == 0);
-  CHECK(show("clipboard") == "clipboard 太郎    12\\n花子     7\\n");
-  CHECK(show("focus") == "focus Form1.txtinputbox");
-  CHECK(table() == kRows);
-
-  menu("mnuCC");
-  CHECK(show("clipboard") == "clipboard 太郎    12\\n花子     7\\n");
-  CHECK_FALSE(holds(said(), "Zelko ｼｭｳﾘｮｳ"));
-
-  menu("mnuClip");
-  CHECK(holds(said(), "Alt+矢印またはshift+矢印でClip範囲を指定した上で本ﾒﾆｭｰを選択して下さい."));
-  CHECK(file("ZLKCLip") == kClip);
-}
-
 TEST_CASE_FIXTURE(ClipSession, "where a clip lands") {
   struct Row {
     const char* story;
@@ -112,18 +90,6 @@ TEST_CASE_FIXTURE(ClipSession, "an undo gives the bytes back, also those that no
   press("Ctrl+I");
   press("N");
   CHECK(readBytes(data()) == pasted);
-}
-
-TEST_CASE_FIXTURE(ClipSession, "an insert paste makes room, and its undo leaves the room") {
-  writeClip(kClip);
-  cursorTo(2, 0);
-  type(u"9");
-  press("Ctrl+Y");
-  CHECK(table() == Rows{kRows[0], "太・12", "花・7", "9  花子     7f", kRows[2]});
-  CHECK(holds(said(), "2業挿入されました。"));
-  press("Ctrl+I");
-  press("Y");
-  CHECK(table() == Rows{kRows[0], "", "", "9  花子     7f", kRows[2]});
 }
 
 TEST_CASE_FIXTURE(ClipSession, "a stop takes back what was pasted, at whichever record it comes") {

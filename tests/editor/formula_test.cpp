@@ -1,5 +1,4 @@
-// The evaluator against numbers worked out by hand in single precision, its faults included; then the keys and the
-// form.
+// The evaluator against numbers worked out by hand in single precision, its faults included.
 #include "editor/formula.h"
 
 #include "editor/clip_session.h"
@@ -160,82 +159,9 @@ TEST_CASE_FIXTURE(ClipSession, "operands, single steps and the check") {
   }
 }
 
-TEST_CASE_FIXTURE(ClipSession, "a formula key fills the box and leaves the commit to the user") {
-  cursorTo(1, 2);
-  press("Ctrl+Num3");
-  CHECK(events() == std::vector<std::string>{"beep"});
-  formulaSlot = {u"@2*2", u"1/0", u"(1", u"@2*100", u"*1", u"1/3", u" "};
-  press("Ctrl+Num3");
-  CHECK(show("Form1.txtinputbox") == "Form1.txtinputbox 24");
-  CHECK(cells(1) == "1  太郎    12abcde");
-  press("Enter");
-  press("Left");
-  // The formula reads what is on disk.
-  press("Ctrl+Num3");
-  CHECK(show("Form1.txtinputbox") == "Form1.txtinputbox 24");
-  press("Down");
-  CHECK(cells(1) == "1  太郎    24abcde");
-
-  cursorTo(1, 2);
-  for (const char* key : {"Ctrl+Num4", "Ctrl+Num5"}) {
-    press(key);
-    CHECK(said() == "式値入力記述式に誤りがあります。OKならCRを叩いてください。");
-    CHECK(show("forms") == "forms frmSHEET Form1 FrmOK");
-    press("Enter");
-    said();
-  }
-  // Four digits don't fit four bytes; the cut goes by the item to the left.
-  press("Ctrl+Num6");
-  CHECK(said() == "計算結果は規定の表示巾を越しています\\n2400?[はい](Y)､ｺﾏﾝﾄﾞぼたん");
-  press("N");
-  CHECK(show("Form1.txtinputbox") == "Form1.txtinputbox");
-  cursorTo(1, 3);
-  play("key Ctrl+Num8\nkey Y");
-  CHECK(show("Form1.txtinputbox") == "Form1.txtinputbox .333%");
-  press("Esc");
-  press("Ctrl+Num7");
-  CHECK(ended());
-}
-
 TEST_CASE_FIXTURE(ClipSession, "a long result on the ID item is the fault that it always was") {
   formulaSlot[0] = u"123456";
   play("key Ctrl+Num3\nkey Y");
   CHECK(ended());
   CHECK(events().back() == "fault " + kBeyond);
-}
-
-TEST_CASE_FIXTURE(ClipSession, "formulas are registered by ear") {
-  type(u"x");
-  said();
-  press("F8");
-  CHECK(said() == "式値入力登録画面。ctrl+3､ブランク");
-  play("type  @2*2 \nkey Enter");
-  CHECK(holds(said(), "ctrl+4､ブランク"));
-  play("key Ctrl+L\nkey Down\nkey Enter");
-  CHECK(show("frmFOMULA.Text1") == "frmFOMULA.Text1 @1");
-  CHECK(show("focus") == "focus frmFOMULA.Text1");
-  play("key Enter\nkey Up\nkey Up\nkey Up");
-  CHECK(holds(said(), "ctrl+4､@1 / ctrl+3､@2*2 / ctrl+2､縦項目ﾃﾞｰﾀのMean,SD,u,Nの記入"));
-  const std::string fixed = show("frmFOMULA.Text1");
-  for (const char* change : {"type 1", "commit 式", "key Backspace"}) {
-    play(change);
-    CHECK(said() == "なお、ctr+0､ctrl+1､ctrl+2はすでに設定してあり書き換えできません。");
-    CHECK(show("frmFOMULA.Text1") == fixed);
-  }
-  play("key Up\nkey Up\nkey Up");
-  CHECK(events().back() == "beep");
-  press("Shift+Ctrl+A");
-  CHECK(holds(said(),
-              "式値入力登録画面。この画面終了後は､ctrl+"
-              "数字ｷｰで､登録した式を使って計算した数値が､書き込みセルに入力されます。"));
-  for (int down = 0; down < 9; ++down) press("Down");
-  said();
-  play("type 9\nkey Enter");
-  CHECK(holds(said(), "ctrl+9､9"));
-  press("Esc");
-  CHECK(formulaSlot == std::array<Text, 7>{u"@2*2", u"@1", u"", u"", u"", u"", u"9"});
-  CHECK(show("Form1.txtinputbox") == "Form1.txtinputbox x");
-  CHECK(show("focus") == "focus Form1.txtinputbox");
-  press("F8");
-  CHECK(holds(said(), "ctrl+5､ブランク"));
 }

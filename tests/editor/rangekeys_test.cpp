@@ -1,4 +1,4 @@
-// The keys on a finished range, sums and clips from the dialog, and the menu entries.
+// The keys on a finished range, and what refuses them.
 #include <doctest/doctest.h>
 
 #include "editor/range_fixture.h"
@@ -140,51 +140,6 @@ TEST_CASE_FIXTURE(RangeFixture, "reading aloud stops at its limit") {
   CHECK(between == 242);
 }
 
-TEST_CASE_FIXTURE(RangeFixture, "sums of a range go to the clipboard, chosen or finished") {
-  struct Row {
-    std::vector<std::string> keys;
-    const char* question;
-    const char* sum;
-  };
-  const std::vector<Row> rows = {
-      {{"Right", "Right", "Shift+Right", "Right", "Ctrl+Num0"},
-       "横合計計算しました。指定項目範囲(2～ 3)の合計=10",
-       "10"},
-      {{"Right", "Right", "Shift+Down", "Down", "Ctrl+Num1"}, "縦合計計算しました。指定行範囲(1～ 2)の合計=30", "30"},
-      {{"Right", "Right", "Alt+Right", "Enter", "Ctrl+Num1"}, "縦合計計算しました。指定行範囲(1～ 4)の合計=100", "100"},
-  };
-  for (const Row& row : rows) {
-    table(4);
-    play(row.keys);
-    CHECK(utf8(dynamic_cast<Label*>(screen().activeForm()->find(u"lblMSG"))->caption()) ==
-          std::string(row.question) + "\rクリップボードにコピーしますか？");
-    play({"Y"});
-    Text copied;
-    Fixture::host().clipboardText(copied);
-    CHECK(utf8(copied) == row.sum);
-    CHECK(rangeKind == 0);
-    CHECK(mode.empty());
-    CHECK(screen().activeForm()->name() == u"Form1");
-  }
-  table(4);
-  play({"Shift+Down", "Down", "Right"});
-  for (const char* key : {"Ctrl+Num0", "Ctrl+Num1"}) CHECK(play({key}).front() == "beep");
-  CHECK(mode == u"HTYU");
-  play({"Enter"});
-  for (const char* key : {"Ctrl+Num0", "Ctrl+Num1"}) CHECK(play({key}) == Heard{"beep"});
-  CHECK(rangeKind == 1);
-}
-
-TEST_CASE_FIXTURE(RangeFixture, "Ctrl+Insert in the dialog copies the block and leaves") {
-  table(4);
-  play({"Down", "Right", "Shift+Down", "Up", "Ctrl+Insert"});
-  CHECK(file("ZLKCLip") == "2\r\n1\r\n2\r\n1\r\n1\r\n\"N1    \"\r\n\"N2    \"\r\n");
-  CHECK(rangeKind == 0);
-  CHECK(mode.empty());
-  CHECK(masks().empty());
-  CHECK(screen().activeForm()->name() == u"Form1");
-}
-
 TEST_CASE_FIXTURE(RangeFixture, "a read-only table refuses every change of a range with its notice") {
   struct Row {
     std::vector<std::string> range;
@@ -216,17 +171,4 @@ TEST_CASE_FIXTURE(RangeFixture, "a read-only table refuses every change of a ran
     CHECK(mode.empty());
   }
   setReadOnly(fromUtf8(path(kTable)), false);
-}
-
-TEST_CASE_FIXTURE(RangeFixture, "menu entries without a range say how to choose one") {
-  table(4, 0);
-  for (const char* entry : {"menu mnuCOPY", "menu mnuMOVE", "menu mnuMREC", "menu mnuMITEM", "menu mnuZDEL"}) {
-    CAPTURE(entry);
-    play({entry});
-    CHECK(screen().activeForm()->name() == u"FrmOK");
-    play({"Enter"});
-  }
-  play(kRecords);
-  play({"menu mnuZDEL", "Y"});  // the data, not the records
-  CHECK(allCells() == std::vector<std::string>{"1|N1|10|x1|J1", "||||", "||||", "4|N4|40|x4|J4"});
 }

@@ -5,53 +5,11 @@
 #include <array>
 
 #include "editor/datamove.h"
-#include "editor/mssg.h"
 #include "editor/range_fixture.h"
 #include "store/records.h"
 
 using namespace zelko;
 using namespace zelko::test;
-
-namespace {
-
-std::vector<std::string> ids(const std::vector<std::string>& cells) {
-  std::vector<std::string> first;
-  for (const std::string& record : cells) first.push_back(record.substr(0, record.find('|')));
-  return first;
-}
-
-}  // namespace
-
-TEST_CASE_FIXTURE(RangeFixture, "the pointer of a record move jumps over the block") {
-  table(9);
-  play({"Down", "Down", "Alt+Down", "Down", "Enter"});  // records 3 and 4
-  CHECK(play({"Down"}).back().starts_with("say 一連の記録を移動します。上下矢印キーで、"));
-  CHECK(utf8(form<frmMSSG>().Command1.caption()) == "記録移動実行(CR)");
-  CHECK(masks() == "3-4 0-4 255; 6-6 0-4 65280");
-  struct Row {
-    const char* key;
-    const char* said;
-  };
-  const std::vector<Row> walk = {{"Up", "say 記録3移動記録：記録3から4 を　記録2の前に"},
-                                 {"Down", "say 記録3移動記録：記録3から4 を　記録6の前に"},
-                                 {"Ctrl+Down", "say 記録3移動記録：記録3から4 を　記録9の前に"},
-                                 {"Down", "beep"},
-                                 {"Right", "beep"},
-                                 {"Ctrl+H", "beep"},
-                                 {"Ctrl+Up", "say 記録3移動記録：記録3から4 を　記録1の前に"},
-                                 {"Up", "beep"},
-                                 {"Shift+Ctrl+S", "say 記録3移動記録：記録3から4 を　記録1の前に"}};
-  for (const Row& row : walk) {
-    CAPTURE(row.key);
-    CHECK(play({row.key}) == Heard{row.said});
-  }
-  CHECK(play({"Ctrl+J", "type 5", "Enter"}).back() == "say 記録3移動記録：記録3から4 を　記録6の前に");
-  CHECK(play({"Enter"}).back() == "say ギョウ6/項目0/6､データ入力ﾃｷｽﾄﾎﾞｯｸｽ");
-  CHECK(ids(allCells()) == std::vector<std::string>{"1", "2", "5", "3", "4", "6", "7", "8", "9"});
-  CHECK(mode.empty());
-  CHECK(rangeKind == 0);
-  CHECK(masks().empty());
-}
 
 TEST_CASE_FIXTURE(RangeFixture, "where a move begins to point") {
   struct Row {
@@ -78,36 +36,6 @@ TEST_CASE_FIXTURE(RangeFixture, "where a move begins to point") {
     CHECK(masks().empty());
     CHECK(mainForm().txtinputbox.hasFocus());
   }
-}
-
-TEST_CASE_FIXTURE(RangeFixture, "an item move refuses its own edge and moves elsewhere") {
-  table(3);
-  play({"Right", "Alt+Right", "Enter", "Left"});
-  play({"Enter"});
-  CHECK(utf8(screen().activeForm()->caption()) == "移動点の再設定");
-  play({"Enter"});
-  CHECK(play({"Right"}) == Heard{"say 項目1移動項目：項目1 を　項目3の前に"});
-  CHECK(masks() == "1-3 1-1 255; 1-3 3-3 65280");
-  CHECK(play({"Ctrl+Right", "Enter"}).back() == "say 項目移動完了。");
-  CHECK(cells(1) == "1|10|x1|N1|J1");
-}
-
-TEST_CASE_FIXTURE(RangeFixture, "cells are copied and moved where the pointer stands") {
-  table(4);
-  play({"Right", "Shift+Right", "Right", "Down", "Enter"});  // records 1 and 2, items 1 and 2
-  CHECK(play({"Right"}).back().starts_with("say （マスク範囲）の項目ﾃﾞｰﾀをｺﾋﾟｰします。"));
-  CHECK(cursor() == std::pair{1, 1});
-  CHECK(play({"Right"}) == Heard{"say 項目1移動項目：項目1から2 を　項目2にｺﾋﾟｰ"});
-  CHECK(play({"Down"}) == Heard{"say 記録1移動記録：記録1から2 を　記録2にｺﾋﾟｰ"});
-  CHECK(masks() == "1-2 1-2 12632319; 2-3 2-3 8454016");
-  CHECK(play({"Enter"}).back() == "say ギョウ2/項目2/N1､データ入力ﾃｷｽﾄﾎﾞｯｸｽ");
-  CHECK(allCells() == std::vector<std::string>{"1|N1|10|x1|J1", "2|N2|N1|10|J2", "3|N3|N2|20|J3", "4|N4|40|x4|J4"});
-  // Behind the last record the file grows, behind the last item the cells are lost; a narrow item cuts.
-  table(4);
-  play({"Right", "Shift+Right", "Right", "Down", "Enter", "Ctrl+Down", "Ctrl+Down", "Down", "Ctrl+Right", "Enter"});
-  CHECK(allCells() ==
-        std::vector<std::string>{"1|||x1|J1", "2|||x2|J2", "3|N3|30|x3|J3", "4|N4|40|x4|J4", "||||N1", "||||N2"});
-  CHECK(readBytes(path(kTable)).size() == 6 * 256);
 }
 
 TEST_CASE_FIXTURE(RangeFixture, "a copy keeps the side of its new item") {

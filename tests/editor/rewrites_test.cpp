@@ -1,4 +1,4 @@
-// The rewriting commands as the user meets them: keys, sentences, stops, failures, and the bytes on disk.
+// The rewriting commands: what they refuse, stops, failures, and the bytes on disk.
 #include "editor/rewrites.h"
 
 #include <doctest/doctest.h>
@@ -46,12 +46,6 @@ struct Session : Fixture {
 
   std::string bytes() const { return readBytes(folder() / "t.txt") + readBytes(folder() / "Kt.txt"); }
   std::string cells(int number) const { return toUtf8(record(number)); }
-  std::vector<std::string> files() const {
-    std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(folder())) names.push_back(entry.path().filename().string());
-    std::ranges::sort(names);
-    return names;
-  }
   // Runs a command and answers whether it changed the table.
   bool does(const std::function<bool()>& command) {
     bool changed = false;
@@ -74,102 +68,6 @@ const std::string kWriteError = "書き込み時にエラーが出ました。";
 bool contains(const std::string& text, std::string_view part) { return text.find(part) != std::string::npos; }
 
 }  // namespace
-
-TEST_CASE_FIXTURE(Session, "a width is heard at each step, shown in the sheet, and written by Enter alone") {
-  play("key Right\nkey Right");
-  said();
-  play("key Shift+Space");
-  CHECK(mode == u"chfln");
-  CHECK(said() ==
-        "現在項目2。点Width4の項目幅操作中です。ｺﾝﾄﾛｰﾙｽﾍﾟｰｽで現在の項目幅縮小、ｼﾌﾄｽﾍﾟｰｽで拡大、CRで確定、エスケープで元"
-        "通りです。"
-        "項目幅操作テキストボックス / Width5");
-  play("key Shift+Space\nkey Ctrl+Space\nkey Shift+Space");
-  CHECK(said() == "Width6 / Width5 / Width6");
-  CHECK(show("frmFLN.Text1") == "frmFLN.Text1     12\n");
-  CHECK(bytes() == before);
-  press("Enter");
-  CHECK(contains(said(), "書き換え終了"));
-  CHECK(cells(1) == "1  太郎      12abcde");
-  CHECK(cells(3) == "3  次郎     100");
-  CHECK(itemWidthLoaded[2] == 6);
-  CHECK(mode.empty());
-
-  play("key Left\nkey Shift+Space\nkey Shift+Space");
-  CHECK(contains(show("frmSHEET.Grid1"), "1 | 1 | 太郎  // | 12 | abcde"));
-  play("key Ctrl+Space\nkey Ctrl+Space\nkey Ctrl+Space\nkey Ctrl+Space");
-  CHECK(contains(show("frmSHEET.Grid1"), "2 | 2 | 花子 | 7"));
-  play("click frmFLN.Command6");
-  CHECK(itemWidth[1] == 6);
-  const std::string kept = bytes();
-  play("key Ctrl+Space\nkey Esc");
-  CHECK(bytes() == kept);
-  CHECK(itemWidth[1] == 6);
-  CHECK(show("focus") == "focus Form1.txtinputbox\n");
-  play("key Ctrl+Space\nkey Ctrl+Space\nkey Ctrl+Space\nkey Enter");
-  CHECK(cells(1) == "1  太・    12abcde");
-}
-
-TEST_CASE_FIXTURE(Session, "a width stops at one byte and at a sum of 256, and says what the record cannot hold") {
-  play("key Ctrl+Space\nkey Ctrl+Space");
-  (void)events();
-  press("Ctrl+Space");
-  CHECK(events() == std::vector<std::string>{"beep"});
-  run([] {
-    for (int i = 0; i < 252 - 16; ++i) widenItem(3);
-  });
-  said();
-  press("Esc");
-  run([] {
-    itemWidth[3] = static_cast<std::int16_t>(254 - 13);
-    applyWidth();
-  });
-  press("Shift+Space");
-  CHECK(contains(said(), "Width4。254バイトを超えた、最後の1バイトは保存されません。"));
-  press("Shift+Space");
-  CHECK(contains(said(), "最後の2バイトは保存されません。"));
-  (void)events();
-  press("Shift+Space");
-  CHECK(events() == std::vector<std::string>{"beep"});
-}
-
-TEST_CASE_FIXTURE(Session, "records and items: what is said, where the cursor stands, what is on disk") {
-  play("key Down\ntype x\nkey Shift+Ctrl+Insert");
-  CHECK(contains(said(), "1業挿入されました。"));
-  CHECK(records() == 4);
-  CHECK(cells(2).empty());
-  CHECK(cells(3) == "x  花子     7f");
-  CHECK(curRec == 2);
-  CHECK(does([] { return moveRecords(1, 2, 5, docPath, docDrive); }));
-  CHECK(cells(4).empty());
-  CHECK(cells(1) == "x  花子     7f");
-  CHECK(does([] { return moveItems(1, 1, 4); }));
-  CHECK(contains(said(), "項目移動完了。"));
-  CHECK(cells(1) == "x     7f    花子");
-  CHECK(itemName[3] == u"名");
-  CHECK(does([] { return insertItems(1, 2); }));
-  CHECK(itemName[1] == u"項目1");
-  CHECK(itemLR[2] == u"L");
-  CHECK(cells(1) == "x       7f    花子");
-  CHECK(does([] { return deleteItems(1, 3); }));
-  CHECK(cells(1) == "x  f    花子");
-  CHECK(itemCount == 2);
-  CHECK(does([] { return deleteRecords(1, 4); }));
-  CHECK(records() == 0);
-  CHECK(curRec == 1);
-  CHECK(readBytes(folder() / "ZLKCLip").starts_with("4\r\n1\r\n"));
-  CHECK(does([] { return insertRecords(2, docPath, docDrive); }));
-  CHECK(records() == 2);
-}
-
-TEST_CASE_FIXTURE(Session, "a rectangle is blanked in place, after it went to the clip file") {
-  CHECK(does([] { return rangeClear(3, 2, 2, 1); }));
-  CHECK(cells(1) == "1  太郎    12abcde");
-  CHECK(cells(2) == "2            f");
-  CHECK(cells(3) == "3");
-  CHECK(fs::exists(folder() / "ZLKCLip"));
-  CHECK(rangeKind == 0);
-}
 
 TEST_CASE_FIXTURE(Session, "the always-displayed item and the entry items stay with their items") {
   run([] {

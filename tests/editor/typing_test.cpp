@@ -79,14 +79,6 @@ TEST_CASE_FIXTURE(EditorFixture, "a typed cell") {
   }
 }
 
-TEST_CASE_FIXTURE(EditorFixture, "a right-justified cell keeps the right end") {
-  open(kItems, kRecords, 1);
-  play({"Right", "Right", "commit 7", "Down"});
-  CHECK(record(1) == "1  abcde  7");
-  play({"Up", "commit 12345", "Up"});
-  CHECK(record(1) == "1  abcde123");
-}
-
 TEST_CASE_FIXTURE(EditorFixture, "the last cell of the last record opens a new line") {
   open(kItems, {{u"1", u"a", u"2"}}, 2);
   play({"Right", "Right"});

@@ -64,14 +64,6 @@ TEST_CASE_FIXTURE(Designer, "a new table is designed by ear and opened") {
   CHECK(fromSjis(file("K会員.txt")) == u"100  ',名簿,,1\r\n1000 'ID No,L\r\n1001 '氏名,R\r\n2000 '4\r\n2001 '10\r\n");
 }
 
-TEST_CASE_FIXTURE(Designer, "without a table Esc asks whether to leave, and there is a way back") {
-  openNew();
-  CHECK(play({"key Esc"}) == "Zelkoを終了しますか？?[はい](Y)､ｺﾏﾝﾄﾞぼたん");
-  play({"key N"});
-  CHECK(play({"show focus"}) == "focus frmDESIGN.itemin");
-  CHECK(play({"key Esc", "key Y"}).ends_with("Zelko ｼｭｳﾘｮｳ / end"));
-}
-
 TEST_CASE_FIXTURE(Designer, "a wrong cell is told and stays, marked for what is typed next") {
   openDesign();
   const std::string back = " / " + cell("項目1の配置を示すRまたはＬを入力してください");
@@ -84,43 +76,6 @@ TEST_CASE_FIXTURE(Designer, "a wrong cell is told and stays, marked for what is 
   CHECK(play({"key Enter", "show focus"}).ends_with("focus frmDESIGN.itemin"));
   CHECK(play({"type L", "key Enter", "type ５x"}) ==
         "ｵｵﾓｼﾞｴﾙ / " + cell("項目1の項目幅を入力してください") + " / 5 / beep");
-}
-
-TEST_CASE_FIXTURE(Designer, "the count of items is checked when its box is left") {
-  openDesign();
-  play({"focus frmDESIGN.text1"});
-  CHECK(play({"commit 257", "key Tab", "key Enter"}).find("項目数は256以下でなければいけません。") !=
-        std::string::npos);
-  CHECK(play({"commit -1", "key Tab", "key Enter"}).find("項目数は0以上でなければいけません。") != std::string::npos);
-  CHECK(play({"show focus"}) == "focus frmDESIGN.text1");
-  play({"commit 3", "key Tab"});
-  CHECK(play({"show frmDESIGN.Grid1"}).ends_with("frmDESIGN.Grid1 3 | item.3 | L | "));
-}
-
-TEST_CASE_FIXTURE(Designer, "a change of widths and sides: records rewritten, left as they are, or nothing at all") {
-  struct Row {
-    std::string answer, first, second;  // the records afterwards
-    bool changed;
-  };
-  const std::string old1 = cellRow("1   yamada   80"), old2 = cellRow("2   sato      7");
-  for (const Row& row : {Row{"key Y", cellRow("1     da80 "), cellRow("2     to7  "), true},
-                         Row{"key N", old1, old2, true}, Row{"key Esc", old1, old2, false}}) {
-    CAPTURE(row.answer);
-    openDesign();
-    play({"key Down", "key Enter", "type R", "key Enter", "type 2", "key Enter", "key Enter", "type L", "key Enter"});
-    play({"focus frmDESIGN.itemin", "key Up", "key Up", "type 6", "focus frmDESIGN.Command1"});
-    const std::string question = play({"key Enter"});
-    CHECK(question.starts_with(
-        "項目幅区切り又は左／右詰め項目に変更がありました、新設定に沿って既存データを書き換えますか。"));
-    play({row.answer});
-    CHECK(file("t.txt") == row.first + row.second);
-    const std::string items = file("Kt.txt");
-    CHECK((items == kItemFile) == !row.changed);
-    if (row.changed) CHECK(items.ends_with("1001 'name,R\r\n1002 'pt,L\r\n2000 '6\r\n2001 '2\r\n2002 '3\r\n"));
-    if (!row.changed) play({"key Esc"});
-    CHECK(play({"show forms"}) == "forms frmSHEET Form1");
-    CHECK(curRec == 1);
-  }
 }
 
 TEST_CASE_FIXTURE(Designer, "a row that is deleted or inserted takes its cells along") {
@@ -176,42 +131,6 @@ TEST_CASE_FIXTURE(Designer, "what fails or is refused leaves both files as they 
   CHECK_FALSE(exists("WORK.QQQ"));
 }
 
-TEST_CASE_FIXTURE(Designer, "file names of a new table") {
-  openDesign();
-  play({"key Esc"});
-  writeBytes(path("other.txt"), "plain text");
-  struct Row {
-    std::string name, told;
-  };
-  const std::string none = "ﾌｧｲﾙ名がありません。ﾌｧｲﾙ名は？";
-  const std::string write = "書き込み時にエラーが出ました。";
-  for (const Row& row : {Row{".txt", none}, Row{"  ", none}, Row{path("sub/"), none}, Row{path("no/such"), write},
-                         Row{std::string(252, 'a'), write}, Row{"T", "編集中のﾌｧｲﾙと同じです｡"},
-                         Row{"other", "という名前のﾌｧｲﾙが既にあります。"}}) {
-    CAPTURE(row.name);
-    play({"menu mnuNEW", "key Enter", "key Enter", "type 4", "focus frmDESIGN.text1", "commit 0"});
-    play({"focus frmDESIGN.text3", "key Ctrl+A", "key Delete", "commit " + row.name, "focus frmDESIGN.Command1"});
-    CHECK(play({"key Enter"}).find(row.told) != std::string::npos);
-    play({"key Esc", "wait 1", "key Esc", "wait 1"});
-    CHECK(play({"show forms"}) == "forms frmSHEET Form1");
-    CHECK(docPath == fromUtf8(path("t.txt")));
-    CHECK(recCount() == 2);
-  }
-  CHECK(file("other.txt") == "plain text");
-  CHECK_FALSE(exists("Kother.txt"));
-}
-
-TEST_CASE_FIXTURE(Designer, "another name in the design of an open table makes a new table and leaves the old one") {
-  openDesign();
-  const std::string data = file("t.txt");
-  play({"focus frmDESIGN.text3", "commit u", "focus frmDESIGN.Command1", "key Enter"});
-  CHECK(docPath == fromUtf8(path("u.txt")));
-  CHECK(file("u.txt").empty());
-  CHECK(file("Ku.txt") == kItemFile);
-  CHECK(file("t.txt") == data);
-  CHECK(file("Kt.txt") == kItemFile);
-}
-
 TEST_CASE_FIXTURE(Designer, "the design of another table is heard and taken over; a file that is none is told") {
   writeBytes(path("Ka.txt"), "100  ',,,0\r\n1000 'whole,L\r\n2000 '254\r\n");
   writeBytes(path("Kbad.txt"), "no item file");
@@ -227,15 +146,6 @@ TEST_CASE_FIXTURE(Designer, "the design of another table is heard and taken over
   CHECK(play({"key Enter"}) == "a.txtの項目設定を写しました。" + cell("項目0の項目名を記入してください"));
   CHECK(play({"show frmDESIGN.Grid1"}).ends_with("frmDESIGN.Grid1 0 | whole | L | 254"));
   CHECK(play({"show frmDESIGN.text1"}) == "frmDESIGN.text1 0");
-}
-
-TEST_CASE_FIXTURE(Designer, "Insert turns typing into overwriting") {
-  openDesign();
-  play({"key Down", "key Home"});
-  CHECK(play({"key Insert"}) == "上書");
-  play({"type X"});
-  CHECK(play({"show frmDESIGN.itemin"}) == "frmDESIGN.itemin Xame");
-  CHECK(play({"key Insert"}) == "挿入");
 }
 
 TEST_CASE_FIXTURE(Designer, "the items of a CSV file are designed from the picker, which then lists such files") {

@@ -8,10 +8,6 @@ using namespace zelko;
 
 namespace {
 
-std::string said(const std::optional<DesignFault>& fault) {
-  return fault ? toUtf8(fault->said) + "/" + toUtf8(fault->text) : "";
-}
-
 DesignRow row(TextView name, TextView side, TextView width, int old = -1) {
   return {Text(name), Text(side), Text(width), old};
 }
@@ -21,56 +17,6 @@ std::vector<DesignRow> rowsOfWidths(int count, TextView width) {
 }
 
 }  // namespace
-
-TEST_CASE("a cell of the design is refused with its message, or taken") {
-  struct Row {
-    DesignColumn column;
-    Text typed;
-    std::string fault;
-  };
-  const std::string side = "再入力、ＬかＲのみ記入。/Ｌ(左詰め指定)かＲ(右詰め指定）のみを入力して下さい";
-  const std::string tooSmall = "再入力、項目幅は１以上を。/項目幅は１以上を指定して下さい";
-  const std::string tooLarge = "再入力、項目幅が長い。/項目幅が長すぎます";
-  const Row rows[] = {
-      {DesignColumn::name, Text(254, u'字'), ""},
-      {DesignColumn::name, Text(255, u'a'), "再入力、項目名は254文字以内。/項目名は254文字以内に押さえて下さい"},
-      {DesignColumn::name, u"", ""},
-      {DesignColumn::name, u"a,b", ""},
-      {DesignColumn::side, u"L", ""},
-      {DesignColumn::side, u"ｒ", ""},
-      {DesignColumn::side, u"", side},
-      {DesignColumn::side, u"LR", side},
-      {DesignColumn::width, u"1", ""},
-      {DesignColumn::width, u"254", ""},
-      {DesignColumn::width, u"0254", ""},
-      {DesignColumn::width, u"255", tooLarge},
-      {DesignColumn::width, u"99999999999999999999", tooLarge},
-      {DesignColumn::width, u"0", tooSmall},
-      {DesignColumn::width, u"", tooSmall},
-  };
-  for (const Row& r : rows) {
-    CAPTURE(toUtf8(r.typed));
-    CHECK(said(faultOfCell(r.column, r.typed)) == r.fault);
-  }
-}
-
-TEST_CASE("an item count is a number from 0 to the length of a record, or not set") {
-  struct Row {
-    TextView typed;
-    int count;  // -1 none
-    std::string fault;
-  };
-  const std::string below = "/項目数は0以上でなければいけません。", above = "/項目数は256以下でなければいけません。";
-  for (const Row& r :
-       {Row{u"", -1, ""}, Row{u" 　", -1, ""}, Row{u"0", 0, ""}, Row{u"１２", 12, ""}, Row{u"256", 256, ""},
-        Row{u"257", -1, above}, Row{u"99999999999999999999", -1, above}, Row{u"-1", -1, below}, Row{u"abc", -1, below},
-        Row{u"1e400", -1, below}, Row{u"2.5", -1, below}}) {
-    CAPTURE(toUtf8(r.typed));
-    const TypedCount typed = typedCount(r.typed);
-    CHECK(typed.count.value_or(-1) == r.count);
-    CHECK(said(typed.fault) == r.fault);
-  }
-}
 
 TEST_CASE("a table is refused with a line for all that stands against it") {
   struct Row {

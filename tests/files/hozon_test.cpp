@@ -54,33 +54,6 @@ TEST_CASE("an output file always has its extension, and is never settled before 
   CHECK(convertedName(u"/a.b/memo") == u"/a.b/memo_ZELKO");
 }
 
-TEST_CASE_FIXTURE(Saver, "saved under another name: the second Enter writes, and the user chooses where to go on") {
-  CHECK(
-      play({"key Enter", "key Enter"}).starts_with("beep / ファイル名を指定してください。OKならCRを叩いてください。"));
-  play({"type abc"});
-  CHECK(play({"key Enter"}) == "beep / ~/abc.txt。OKなら再度CRをﾀﾀｲﾃｸﾀﾞｻｲ");
-  CHECK_FALSE(exists("abc.txt"));
-  CHECK(play({"key Enter"}) ==
-        "<<<<<元のﾌｧｲﾙで作業しますか>>>>?\\n元のﾌｧｲﾙで作業しますか、元のﾌｧｲﾙの場合　はい　、新ﾌｧｲﾙの場合 いいえ "
-        "を押して下さい。"
-        "?[はい](Y)､ｺﾏﾝﾄﾞぼたん");
-  CHECK(file("abc.txt") == data_);
-  CHECK(file("Kabc.txt") == items_);
-  SUBCASE("yes") {
-    CHECK(play({"key Y"}).ends_with("ギョウ1/項目0/1､データ入力ﾃｷｽﾄﾎﾞｯｸｽ"));
-    CHECK(docPath == fromUtf8(path("t.txt")));
-  }
-  SUBCASE("no") {
-    CHECK(play({"key N"}).ends_with("1  ｷﾞｮｳ1 ｺｳﾓｸ0ID"));
-    CHECK(docPath == fromUtf8(path("abc.txt")));
-    play({"commit x", "key Enter", "key Down"});
-    CHECK(file("abc.txt") != data_);
-    CHECK(file("t.txt") == data_);
-  }
-  CHECK(play({"show forms"}) == "forms frmSHEET Form1");
-  CHECK(mode.empty());
-}
-
 TEST_CASE_FIXTURE(Saver, "records go behind those of a file that exists, and of the open table itself") {
   SUBCASE("another, picked in the list") {
     writeBytes(path("a.txt"), data_);
@@ -142,13 +115,6 @@ TEST_CASE_FIXTURE(Saver, "what was typed and not yet stored is in the copy") {
   play({"key Esc", "commit 7", "menu mnuRESAS", "commit abc.txt", "key Enter", "key N"});
   CHECK(file("abc.txt").starts_with("7   "));
   CHECK(file("t.txt").starts_with("7   "));
-}
-
-TEST_CASE_FIXTURE(Saver, "another folder takes the name along") {
-  std::filesystem::create_directory(path("sub"));
-  play({"key Esc", "menu mnuRESAS", "commit abc", "focus formHOZON.Dir1", "key End"});
-  play({"key Enter"});
-  CHECK(play({"show formHOZON.RichTextBox1"}) == "formHOZON.RichTextBox1 ~/sub/abc");
 }
 
 TEST_CASE_FIXTURE(FilesFixture, "a text file becomes a table, a line a record; what is too long is told") {

@@ -26,15 +26,6 @@ void checkStillEdited(FilesFixture& user, const std::string& name) {
 
 }  // namespace
 
-TEST_CASE_FIXTURE(FilesFixture, "from the start screen a table opens into the editor") {
-  table(u"会員名簿");
-  pick(u"");
-  play({"key Down"});
-  CHECK(play({"key Enter"}) == "1  ｷﾞｮｳ1 ｺｳﾓｸ0ID");
-  CHECK(play({"show forms"}) == "forms frmSHEET Form1");
-  CHECK(mode.empty());
-}
-
 TEST_CASE_FIXTURE(FilesFixture, "another table takes the place of the open one, which is stored first") {
   table(u"b");
   const Text first = table(u"a");
@@ -54,30 +45,6 @@ TEST_CASE_FIXTURE(FilesFixture, "a table whose files differ in case is one table
   play({"key Down", "key Enter"});
   CHECK(docPath == fromUtf8(path("meibo.txt")));
   CHECK_FALSE(exists("MEIBO.TXT"));
-}
-
-TEST_CASE_FIXTURE(FilesFixture, "a file that is no table leaves everything as it was") {
-  const Text good = table(u"a");
-  writeBytes(folder() / "Kb.txt", "99  'x\r\n");
-  const std::string told = "beep / Zelkoﾌｧｲﾙでないか、項目設定を記述したﾌｧｲﾙが不良ですOKならCRを叩いてください。";
-  SUBCASE("in the editor") {
-    edit(good);
-    play({"menu mnuREAD", "key Down", "key Down"});
-    play({"key Enter"});
-    CHECK(play({"show forms"}) == "forms frmSHEET Form1 frmDISK FrmOK");
-    CHECK(play({"key Enter"}).find("Zelkoﾌｧｲﾙではない可能性があります。") != std::string::npos);
-    CHECK(play({"show FrmOK"}).find("caption ~/b.txt異常") != std::string::npos);
-    play({"key Enter", "key Esc"});
-    CHECK(mode.empty());
-    checkStillEdited(*this, "a.txt");
-    CHECK_FALSE(exists("b.txt"));
-  }
-  SUBCASE("on the start screen") {
-    pick(u"");
-    play({"key Down", "key Down", "key Enter", "key Enter", "key Enter"});
-    CHECK(play({"show forms"}) == "forms frmDISK");
-    CHECK(play({"key Up"}) == "a.txtﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽ");
-  }
 }
 
 TEST_CASE_FIXTURE(FilesFixture, "Space looks at the items and changes nothing") {
@@ -133,49 +100,6 @@ TEST_CASE_FIXTURE(FilesFixture, "a table is deleted with its item file, after a 
   play({"key Esc"});
   CHECK(mode.empty());
   checkStillEdited(*this, "a.txt");
-}
-
-TEST_CASE_FIXTURE(FilesFixture, "Delete removes a layout and nothing else") {
-  edit(table(u"a"));
-  writeBytes(folder() / "x(a).LAY", "");
-  pick(u"YOMIKOMI");
-  play({"key Down", "key Delete"});
-  CHECK(play({"show forms"}) == "forms frmSHEET Form1 frmDISK");
-  play({"key Esc"});
-  pick(u"LAYOUT");
-  play({"key Down", "key Delete"});
-  CHECK(play({"show frmCMSG"}).find("caption ファイル削除") != std::string::npos);
-  play({"type y"});
-  CHECK_FALSE(exists("x(a).LAY"));
-  CHECK(play({"key Enter"}) == "beep");
-  play({"key Esc"});
-  CHECK(mode == u"tyusi");
-}
-
-TEST_CASE_FIXTURE(FilesFixture, "cancelling tells the caller only where it waits for a file") {
-  edit(table(u"a"));
-  struct Row {
-    Text job, after;
-  };
-  const std::vector<Row> rows = {{u"", u""},         {u"YOMIKOMI", u""},    {u"SVCread", u""},
-                                 {u"REF", u"tyusi"}, {u"LAYOUT", u"tyusi"}, {u"delfile", u"tyusi"}};
-  for (const Row& row : rows) {
-    CAPTURE(toUtf8(row.job));
-    pick(row.job);
-    play({"key Esc"});
-    CHECK(mode == row.after);
-    CHECK(play({"show forms"}) == "forms frmSHEET Form1");
-  }
-  checkStillEdited(*this, "a.txt");
-}
-
-TEST_CASE_FIXTURE(FilesFixture, "without a table cancelling asks whether to end") {
-  pick(u"");
-  heard();
-  CHECK(play({"key Esc"}) == "Zelkoを終了しますか？?[はい](Y)､ｺﾏﾝﾄﾞぼたん");
-  play({"type n"});
-  CHECK(play({"show forms"}) == "forms frmDISK");
-  CHECK(play({"key Esc", "type y"}).ends_with("Zelko ｼｭｳﾘｮｳ / end"));
 }
 
 TEST_CASE_FIXTURE(FilesFixture, "a folder is made in the marked one") {

@@ -17,29 +17,6 @@ struct Session : Fixture {
 
 }  // namespace
 
-TEST_CASE("a form that is shown becomes active, then its first control has the focus") {
-  Session s;
-  CHECK(s.said() == "active frmSample / in box");
-  CHECK(s.events().front() == "+ frmSample Sample");
-}
-
-TEST_CASE("Tab reaches every control in order and returns, both ways") {
-  Session s;
-  s.said();
-  std::string there, back;
-  for (int i = 0; i < 6; ++i) {
-    s.press("Tab");
-    there += toUtf8(screen().activeControl()->fullName()) + " ";
-  }
-  CHECK(there == "check Option1(0) Option1(1) ok cancel box ");
-  for (int i = 0; i < 6; ++i) {
-    s.press("Shift+Tab");
-    back += toUtf8(screen().activeControl()->fullName()) + " ";
-  }
-  CHECK(back == "cancel ok Option1(1) Option1(0) check box ");
-  CHECK(s.said().starts_with("out box / in check / out check / in Option1(0)"));
-}
-
 TEST_CASE("a control that loses its place gives the focus to the next one; one that can't take it is passed over") {
   Session s;
   s.said();
@@ -143,26 +120,4 @@ TEST_CASE("an unloaded form lives until its handler ends, and its successor is a
   CHECK(s.said() == "unloading / text still here");
   CHECK(loadedForm<SampleForm>() == successor);
   CHECK_FALSE(successor->visible());
-}
-
-TEST_CASE("what a check box and options say, whoever changes them") {
-  Session s;
-  s.said();
-  s.click("frmSample.check");
-  s.run([&] { s.sample().check.setValue(0); });
-  s.run([&] { s.sample().check.setValue(0); });
-  CHECK(s.said() == "out box / in check / checked / unchecked");
-  s.play("focus frmSample.Option1(0)\nkey Space\nkey Down");
-  CHECK(s.said() == "out check / in Option1(0) / first / out Option1(0) / in Option1(1) / second");
-  CHECK(s.sample().first.value() == 0);
-}
-
-TEST_CASE("closing a window: the form's own answer, else it goes") {
-  Session s;
-  s.sample().onClose = [] { tell(u"asked"); };
-  s.run([&] { s.sample().closeBox(); });
-  CHECK(s.sample().visible());
-  s.sample().onClose = nullptr;
-  s.run([&] { s.sample().closeBox(); });
-  CHECK(loadedForm<SampleForm>() == nullptr);
 }

@@ -159,37 +159,3 @@ TEST_CASE("midnight, the month and the leap day") {
   CHECK(f.host().now() == DateTime{2028, 2, 29, 0, 0, 0});
   CHECK(f.host().dayTimer() == 0.5F);
 }
-
-TEST_CASE("show prints each state behind the word asked for") {
-  Played played = replay(
-      "type ab\nclick Form1.check\nshow focus\nshow forms\nshow title\nshow menu mnuMORE\nshow Form1\n"
-      "show Form1.box\nclipboard a\\nb\nshow clipboard\nshow Form9\nshow Form1.nothing");
-  std::string shown = played.transcript.substr(played.transcript.find("focus "));
-  CHECK(shown ==
-        "focus Form1.check\nforms Form1\ntitle Sample\nmenu mnuMORE More(&M)\nForm1 caption Sample\n"
-        "Form1 box TextBox ab\nForm1 check CheckBox Check(&K) value 1\nForm1 Option1(0) OptionButton One value 0\n"
-        "Form1 Option1(1) OptionButton Two value 0\nForm1 ok CommandButton OK(&O)\n"
-        "Form1 cancel CommandButton Cancel\nForm1.box ab\nclipboard a\\nb\nForm9 not loaded\n"
-        "Form1.nothing not there\n");
-}
-
-TEST_CASE("the recording devices tell what they were asked") {
-  Fixture f;
-  f.run([] {
-    Printer& printer = host().printer();
-    Printer::Font font;
-    font.bold = true;
-    REQUIRE(printer.begin());
-    CHECK(printer.textWidth(font, u"東ｱA") == 420);
-    printer.text(1440, 20.255, font, u"一\r\n二");
-    printer.newPage();
-    printer.text(0, 0, Printer::Font{}, u"三");
-    printer.end();
-    host().openSerial(2)->write("ATDT1\r");
-    CHECK(host().openSerial(4) == nullptr);
-    host().character().speak(u"声");
-  });
-  CHECK(f.events() == std::vector<std::string>{"print page 1", "print text 1440 20.25 ＭＳ ゴシック 10.5 bold 一\\n二",
-                                               "print page 2", "print text 0 0 ＭＳ ゴシック 10.5 三", "print end",
-                                               "serial 2 ATDT1\\n", "agent 声"});
-}

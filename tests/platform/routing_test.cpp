@@ -38,36 +38,6 @@ TEST_CASE("a typed letter passes form, control, edit and change in this order") 
   CHECK(s.sample().box.text() == u"b");
 }
 
-TEST_CASE("whoever swallows a key ends its way down, not its release") {
-  struct Row {
-    const char* where;
-    const char* heard;
-  };
-  for (const Row& row :
-       {Row{"form down", "form down B / form up B / up B"}, Row{"down", "form down B / down B / form up B / up B"},
-        Row{"form press", "form down B / down B / form press b / form up B / up B"},
-        Row{"press", "form down B / down B / form press b / press b / form up B / up B"}}) {
-    CAPTURE(row.where);
-    Session s;
-    s.hearKeys();
-    SampleForm& f = s.sample();
-    auto swallow = [](auto& handler, auto end) {
-      handler = [before = handler, end](auto& event) {
-        before(event);
-        end(event);
-      };
-    };
-    std::string where = row.where;
-    if (where == "form down") swallow(f.onKeyDown, [](KeyEvent& key) { key.swallow(); });
-    if (where == "down") swallow(f.box.onKeyDown, [](KeyEvent& key) { key.swallow(); });
-    if (where == "form press") swallow(f.onKeyPress, [](CharEvent& typed) { typed.ch = 0; });
-    if (where == "press") swallow(f.box.onKeyPress, [](CharEvent& typed) { typed.ch = 0; });
-    s.type(u"b");
-    CHECK(s.said() == row.heard);
-    CHECK(f.box.text() == u"");
-  }
-}
-
 TEST_CASE("a key whose handler opens a form is not typed into the box it left") {
   Session s;
   s.hearKeys();
@@ -84,52 +54,6 @@ TEST_CASE("a key whose handler opens a form is not typed into the box it left") 
   // The release of Esc goes to what has the focus by then; that of the letter has been heard.
   CHECK(s.said() == "active frmSample / in box / up Esc");
   CHECK(s.sample().box.text() == u"");
-}
-
-TEST_CASE("Enter and Esc press the default and cancel buttons, and the focus stays") {
-  Session s;
-  s.press("Enter");
-  s.press("Esc");
-  CHECK(s.said() == "ok / cancel");
-  CHECK(s.sample().box.hasFocus());
-  s.sample().ok.setEnabled(false);
-  s.press("Enter");
-  CHECK(s.said() == "");
-  s.play("focus frmSample.cancel\nkey Enter\nkey Space\nkey Alt+K");
-  CHECK(s.said() == "out box / in cancel / cancel / cancel / out cancel / in check / checked");
-}
-
-TEST_CASE("menu: shortcuts, refusals and the walk by keys") {
-  Session s;
-  onMenuHighlight = [](const MenuEntry& entry) { tell(u"at " + entry.captionWithoutMarks()); };
-  auto after = [&](const char* lines) {
-    s.play(lines);
-    std::string heard = s.said();
-    if (auto events = s.events(); !events.empty() && events.back() == "beep") heard += heard.empty() ? "beep" : " beep";
-    return heard;
-  };
-  CHECK(after("key Ctrl+S") == "saved");
-  CHECK(after("menu mnuDEEP") == "deep");
-  CHECK(after("key F1") == "beep");
-  CHECK(after("key Alt+F") == "at Save(S)");
-  CHECK(s.sample().menu().highlighted() != nullptr);
-  CHECK(after("key Down") == "at More(M)");
-  CHECK(after("key Down") == "at Save(S)");
-  CHECK(after("key Up\nkey Right") == "at More(M) / at Deep(D)");
-  CHECK(after("key Esc") == "at More(M)");
-  CHECK(after("key Right\nkey Right") == "at Deep(D) / at Nobody(N)");
-  CHECK(after("key Left\nkey M\nkey D") == "at Save(S) / at Deep(D) / deep");
-  CHECK(s.sample().menu().highlighted() == nullptr);
-  CHECK(after("key Alt+E\nkey Enter") == "at Nobody(N) beep");
-  CHECK(after("key Alt+F\nkey X") == "at Save(S) beep");
-  CHECK(after("key Esc\nkey Z") == "in box / text z");
-  s.sample().menu().setEnabled(u"mnuFILE", false);
-  CHECK(after("key Ctrl+S") == "beep");
-  s.sample().menu().setEnabled(u"mnuFILE", true);
-  s.sample().menu().setVisible(u"mnuSAVE", false);
-  CHECK(after("key Ctrl+S") == "beep");
-  CHECK(after("key Alt+F") == "at More(M)");
-  onMenuHighlight = nullptr;
 }
 
 TEST_CASE("long work lets only live forms have a key") {

@@ -90,25 +90,6 @@ TEST_CASE("an item file opens, or its own message is told") {
   }
 }
 
-TEST_CASE("what the lines of an item file say") {
-  StoreFixture store;
-  store.write("t.txt", "");
-  const std::string name = toSjis(u"氏名");
-  store.write("Kt.txt", "100  ',\x89\xef\x88\xf5,x,2\r\n1000 'ID No,L\r\n1001 '" + name + ",L\r\n1002 '" +
-                            std::string(300, 'n') + ",R\r\n2000 '6\r\n2001 '20\r\n2002 '5\r\n");
-  REQUIRE(store.open("t.txt"));
-  CHECK(itemCount == 2);
-  CHECK(tableMemo == u"会員");
-  CHECK(itemName[0] == u"ID No");
-  CHECK(itemName[1] == u"氏名");
-  CHECK(itemName[2] == Text(248, u'n'));
-  CHECK(itemLR[2] == u"R");
-  CHECK(itemWidth[1] == 20);
-  CHECK(itemWidthLoaded[1] == 20);
-  CHECK(itemStart[2] == 27);
-  CHECK(itemStart[3] == 32);
-}
-
 TEST_CASE("an item file cut off at any byte is told or opens, and what was open keeps its description") {
   StoreFixture store;
   store.table("old.txt", {7, 9}, {"old"});
@@ -181,22 +162,6 @@ TEST_CASE("names of tables, and their item files in any case") {
   CHECK(store.dialogs().size() == 1);
 }
 
-TEST_CASE("an item file is written as it is read") {
-  StoreFixture store;
-  store.table("t.txt", {6, 20, 5}, {}, {2});
-  REQUIRE(store.open("t.txt"));
-  tableMemo = u"会員名簿";
-  itemName[0] = u"ID No";
-  itemName[1] = u"氏名";
-  REQUIRE(writeKFile(docPath, docDrive));
-  CHECK(store.bytes("Kt.txt") == toSjis(u"100  ',会員名簿,,2\r\n1000 'ID No,L\r\n1001 '氏名,L\r\n1002 '2,R\r\n"
-                                        u"2000 '6\r\n2001 '20\r\n2002 '5\r\n"));
-  Text error;
-  readKFile(docPath, docDrive, error);
-  CHECK(error.empty());
-  CHECK(itemName[1] == u"氏名");
-}
-
 TEST_CASE("the documented example opens, and comes back byte for byte") {
   StoreFixture store;
   const std::filesystem::path example = ZELKO_SOURCE_DIR "/tests/data/table-format";
@@ -232,28 +197,4 @@ TEST_CASE("an item file that cannot be written stands as it was") {
   }
   CHECK(store.bytes("Kt.txt") == before);
   CHECK(store.files() == std::vector<std::string>{"Kt.txt", "t.txt"});
-}
-
-TEST_CASE("the work item file is made from the second description") {
-  StoreFixture store;
-  store.table("t.txt", {6}, {"A"});
-  store.table("other.txt", {3, 4, 5}, {}, {1});
-  REQUIRE(store.open("t.txt"));
-  Text error;
-  readKFileOther(store.name("other.txt"), u"", error);
-  REQUIRE(error.empty());
-  CHECK(otherItemStart[2] == 8);
-  CHECK(itemCount == 0);
-  CHECK(isOpen(1));
-  REQUIRE(writeKFileWork(1));
-  CHECK(store.bytes("KWORK.QQQ") == "100  ',memo,,1\r\n1000 '0,L\r\n1001 '1,R\r\n2000 '3\r\n2001 '4\r\n");
-
-  mode = u"delfile";
-  readKFileOther(store.name("none.txt"), u"", error);
-  CHECK(error == u"error");
-  CHECK(isOpen(1));
-  mode.clear();
-  readKFileOther(store.name("none.txt"), u"", error);
-  CHECK_FALSE(isOpen(1));
-  CHECK(otherItemCount == 2);
 }

@@ -27,36 +27,6 @@ void goTo(std::int32_t target) {
 
 }  // namespace
 
-TEST_CASE("opening fills the cache: records, then slashes; an empty table has its new line") {
-  StoreFixture store;
-  store.table("t.txt", {6}, {"one", "two"});
-  REQUIRE(store.open("t.txt"));
-  CHECK(rowBytes(recCache[1]) == dataOf("one"));
-  CHECK(cacheRow(0) == dataOf("one"));
-  CHECK(cacheRow(1) == dataOf("two"));
-  CHECK(cacheRow(2) == slashRec);
-  CHECK(cacheRow(19) == slashRec);
-  CHECK(currentRow().back() == '\n');
-
-  store.write("empty.txt", "");
-  store.write("Kempty.txt", itemFileText({6}));
-  REQUIRE(store.open("empty.txt"));
-  CHECK(recCount() == 0);
-  CHECK(cacheRow(0) == blankRec);
-  CHECK(cacheRow(1) == slashRec);
-  CHECK(flushRec());
-  CHECK(store.bytes("empty.txt").empty());
-  setCell(currentRow(), 0, u"x");
-  CHECK(flushRec());
-  CHECK(store.bytes("empty.txt") == record("x"));
-
-  REQUIRE(store.open("t.txt"));
-  store.write("Kmade.txt", itemFileText({6}));
-  REQUIRE(store.open("made.txt"));
-  CHECK(store.files() ==
-        std::vector<std::string>{"Kempty.txt", "Kmade.txt", "Kt.txt", "empty.txt", "made.txt", "t.txt"});
-}
-
 TEST_CASE("flushRec stores what the row holds, and nothing blank beyond the count") {
   struct Row {
     const char* story;
@@ -102,55 +72,6 @@ TEST_CASE("a tail is no record; a new record takes its place") {
   setRow(currentRow(), "two");
   CHECK(flushRec());
   CHECK(store.bytes("t.txt") == record("ONE") + record("two"));
-}
-
-TEST_CASE("putRec writes 256 bytes, NUL behind a shorter string") {
-  StoreFixture store;
-  store.table("t.txt", {6}, {"one"});
-  REQUIRE(store.open("t.txt"));
-  CHECK(putRec(1, 1, "ab"));
-  CHECK(store.bytes("t.txt") == "ab" + std::string(254, '\0'));
-  CacheRow row;
-  CHECK(getRec(1, 1, row));
-  CHECK(putRec(1, 2, std::string(300, 'x')));
-  CHECK(store.bytes("t.txt").substr(256) == std::string(256, 'x'));
-}
-
-TEST_CASE("the cache is centred on a record, and scrolls up by one") {
-  StoreFixture store;
-  std::vector<std::string> cells;
-  for (int i = 1; i <= 60; ++i) cells.push_back(std::to_string(i));
-  store.table("t.txt", {6}, cells);
-  REQUIRE(store.open("t.txt"));
-  struct Row {
-    std::int16_t size;
-    std::int32_t centre, base;
-  };
-  for (const Row& row :
-       {Row{20, 1, 1}, {20, 10, 1}, {20, 11, 2}, {20, 60, 51}, {20, 61, 52}, {7, 30, 28}, {100, 60, 11}}) {
-    CAPTURE(row.centre);
-    cacheSize = row.size;
-    curRec = row.centre;
-    loadCache(row.centre);
-    CHECK(cacheBase == row.base);
-    for (int i = 0; i < cacheSize; ++i) {
-      const std::int32_t number = cacheBase + i;
-      CHECK(cacheRow(i) == (number <= 60 ? dataOf(std::to_string(number)) : blankRec));
-    }
-  }
-  cacheSize = 20;
-  curRec = 30;
-  loadCache(30);
-  setRow(recCache[2 + 5], "unsaved");
-  putRec(1, 20, record("on disk"));
-  cacheScrollUp();
-  CHECK(cacheBase == 20);
-  CHECK(cacheRow(0) == dataOf("on disk"));
-  CHECK(cacheRow(6) == dataOf("unsaved"));
-  CHECK(cacheRow(19) == dataOf("39"));
-  cacheBase = 1;
-  cacheScrollUp();
-  CHECK(cacheBase == 1);
 }
 
 TEST_CASE("a cell is padded or cut by bytes") {

@@ -20,7 +20,7 @@ class frmReading : public Form {
     Narration(*this)
         .explain(u"を　ためします")
         .box(RichTextBox1, u"文 ﾃｷｽﾄﾎﾞｯｸｽ")
-        .say(Command1, [this] { return ++composed_, Text(u"印字 ｺﾏﾝﾄﾞﾎﾞﾀﾝ"); })
+        .say(Command1, [] { return Text(u"印字 ｺﾏﾝﾄﾞﾎﾞﾀﾝ"); })
         .check(Check1, u"。ﾁｪｯｸﾎﾞｯｸｽ")
         .list(List1, u"ﾘｽﾄﾎﾞｯｸｽ");
   }
@@ -29,11 +29,9 @@ class frmReading : public Form {
   Button Command1{*this, u"Command1", u"実行"};
   CheckBox Check1{*this, u"Check1", u"見出し"};
   ListBox List1{*this, u"List1"};
-  int composed() const { return composed_; }
 
  private:
   Text previous_;
-  int composed_ = 0;
 };
 
 class Reading : public Fixture {
@@ -59,37 +57,6 @@ class Reading : public Fixture {
 };
 
 }  // namespace
-
-TEST_CASE("every control says what it holds and what it is, and again on request") {
-  Reading session(1, u"あい");
-  struct Row {
-    const char *key, *heard;
-  };
-  const Row rows[] = {
-      {"Tab", "実行印字 ｺﾏﾝﾄﾞﾎﾞﾀﾝ"},
-      {"Shift+PageDown", "実行印字 ｺﾏﾝﾄﾞﾎﾞﾀﾝ"},
-      {"Shift+Ctrl+A", "読み方を　ためします"},
-      {"Tab", "ノーチェック､見出し。ﾁｪｯｸﾎﾞｯｸｽ"},
-      {"Space", "チェック､見出しﾁｪｯｸﾎﾞｯｸｽ"},
-      {"Shift+Ctrl+S", "チェック､見出し。ﾁｪｯｸﾎﾞｯｸｽ"},
-      {"Tab", "ﾘｽﾄﾎﾞｯｸｽ"},
-      {"Down", "りんご､ﾘｽﾄﾎﾞｯｸｽ"},
-      {"Down", "みかん､ﾘｽﾄﾎﾞｯｸｽ"},
-      {"Tab", "あい､文 ﾃｷｽﾄﾎﾞｯｸｽ"},
-      {"Shift+Ctrl+S", "あい文 ﾃｷｽﾄﾎﾞｯｸｽ"},
-      {"Shift", "あい"},
-      {"Shift+Tab", "ﾘｽﾄﾎﾞｯｸｽ"},
-  };
-  for (const Row& row : rows) {
-    CAPTURE(row.key);
-    CHECK(session.saidAt(row.key) == row.heard);
-  }
-  const int told = form<frmReading>().composed();
-  talkMode = 0;
-  for (const char* key : {"Tab", "Tab", "Shift+PageDown", "Shift+Ctrl+A", "Tab", "Space"}) session.press(key);
-  CHECK(session.said().empty());
-  CHECK(form<frmReading>().composed() == told);
-}
 
 TEST_CASE("the user's copy is kept when the copying key is released") {
   Reading session(1, u"あい");
@@ -127,20 +94,6 @@ TEST_CASE("the caret in lines: line, column and ten characters to each side") {
   }
 }
 
-TEST_CASE("arrows name the character, Shift and an arrow the selection and the end that moved") {
-  Reading session(1, u"あＡｶ");
-  CHECK(session.saidAt("Right") == "ｾﾞﾝｶｸｵｵﾓｼﾞｴｰ");
-  CHECK(session.saidAt("Right") == "ﾊﾝｶｸｶﾀｶﾅｶ");
-  CHECK(session.saidAt("Left") == "ｾﾞﾝｶｸｵｵﾓｼﾞｴｰ");
-  const std::string tail = "。ｶﾞｾﾝﾀｸｻﾚﾃｲﾏｽ.ｶｰｿﾙﾜ ﾖﾐｱｹﾞｹﾞﾝｺｳﾉ ";
-  CHECK(session.saidAt("Shift+Right") == "Ａ" + tail + " ｵﾜﾘﾆ ｱﾘﾏｽ");
-  CHECK(session.saidAt("Shift+Right") == "Ａｶ" + tail + " ｵﾜﾘﾆ ｱﾘﾏｽ");
-  CHECK(session.saidAt("Shift+Right") == "Ａｶ。ｶﾞｾﾝﾀｸｻﾚﾃｲﾏｽ.ｶｰｿﾙﾜ ﾖﾐｱｹﾞｹﾞﾝｺｳﾉ");  // nothing moved
-  CHECK(session.saidAt("Shift+Left") == "Ａ" + tail + " ｵﾜﾘﾆ ｱﾘﾏｽ");
-  CHECK(session.saidAt("Shift+Left").empty());
-  CHECK(session.saidAt("Shift+Left") == "あ" + tail + " ﾊｼﾞﾒﾆ ｱﾘﾏｽ");
-}
-
 TEST_CASE("a change of a long text is told by its run, one character by name") {
   Reading session(1, u"あ");
   session.caret(1);
@@ -153,23 +106,4 @@ TEST_CASE("a change of a long text is told by its run, one character by name") {
   CHECK(session.said() == "あa 削除");
   session.press("Delete");
   CHECK(session.said() == "ｶﾀｶﾅ カ 削除");
-}
-
-TEST_CASE("a menu that is walked by key says each entry") {
-  Reading session(1);
-  narrateMenus();
-  session.run([] {
-    Menu& menu = form<frmReading>().menu();
-    MenuEntry& file = menu.add(nullptr, u"mnuFILE", u"ﾌｧｲﾙ(&F)");
-    menu.add(&file, u"mnuPRINT", u"印刷(&P)", key::function(9));
-    menu.add(&file, u"mnuFbt", u"書き込み禁止").checked = true;
-    menu.add(&file, u"mnuDEL", u"ﾌｧｲﾙ削除").enabled = false;
-    menu.add(&menu.add(&file, u"mnuVAR", u"分散分析"), u"mnu1", u"一元配置");
-  });
-  const char* rows[][2] = {{"Alt+F", "ﾌｧｲﾙ(F)､印刷(P)､F9"},
-                           {"Down", "書き込み禁止､チェック"},
-                           {"Down", "ﾌｧｲﾙ削除､使用不可"},
-                           {"Down", "分散分析､サブメニュー"},
-                           {"Esc", "文 ﾃｷｽﾄﾎﾞｯｸｽ"}};
-  for (const auto& [key, heard] : rows) CHECK(session.saidAt(key) == heard);
 }

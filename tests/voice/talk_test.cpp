@@ -3,7 +3,6 @@
 #include <doctest/doctest.h>
 
 #include "fixture.h"
-#include "voice/agent.h"
 
 using namespace zelko;
 
@@ -107,18 +106,6 @@ TEST_CASE("the user's clipboard is kept, the closing mark of a sentence is not")
   CHECK(session.host().clipboard() == u"わたしの文");
 }
 
-TEST_CASE("what is handed to the user goes out as it is, and is heard where the clipboard speaks") {
-  for (const std::int16_t speech : {std::int16_t{0}, std::int16_t{2}}) {
-    Fixture session;
-    startSpeech(session, speech);
-    session.host().copyElsewhere(u"まえ");
-    session.run([] { handToUser(u"、データ "); });
-    CHECK(session.said() == (speech == 0 ? "" : "、データ "));
-    CHECK(session.host().clipboard() == u"、データ ");
-    CHECK(kept() == "まえ");
-  }
-}
-
 TEST_CASE("a silent run says, waits and composes nothing") {
   Fixture session;
   startSpeech(session, 0);
@@ -134,38 +121,6 @@ TEST_CASE("a silent run says, waits and composes nothing") {
   CHECK(session.events().empty());
   CHECK(session.host().dayTimer() == before);
   CHECK(composedSentences == 0);
-}
-
-TEST_CASE("the talking character takes the place of the clipboard") {
-  Fixture session;
-  startSpeech(session, 1);
-  agentOn = 1;
-  session.host().copyElsewhere(u"わたしの文");
-  const Text whole(356, u'あ'), longer(357, u'い');
-  session.run([] { talkNow(Text(u"同じ")); });
-  session.run([] { talkNow(Text(u"同じ")); });  // no change of the box, so nothing is heard
-  session.run([&] { talkNow(Text(whole)); });
-  session.run([&] { talkNow(Text(longer)); });
-  CHECK(session.events() == std::vector<std::string>{"agent 同じ", "agent " + toUtf8(whole),
-                                                     "agent " + toUtf8(left(longer, 356)) + " 以下省略"});
-  CHECK(session.host().clipboard() == u"わたしの文");
-
-  talkMode = 0;
-  session.run([] { form<frmAGENT>().show(); });
-  session.events();
-  session.click("frmAGENT.Option2(1)");
-  session.click("frmAGENT.Option3(0)");
-  talkMode = 1;
-  session.run([] { talkNow(Text(u"文")); });
-  session.click("frmAGENT.Option1(3)");
-  const auto heard = session.events();
-  REQUIRE(heard.size() >= 3);
-  CHECK(heard[0] == "agent \\Spd=500スピード2");
-  CHECK(heard[1] == "agent \\PIT=0\\高さ1");
-  CHECK(heard[2] == "agent \\PIT=0\\文");
-  session.run([] { talkNow(Text(u"もう一度")); });
-  session.click("frmAGENT.Command1");
-  CHECK(session.events().back() == "agent もう一度");
 }
 
 TEST_CASE("speech settings survive a run, and a rotten file is no setting") {

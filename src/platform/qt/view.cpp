@@ -6,7 +6,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScreen>
 #include <QTimer>
 #include <algorithm>
 
@@ -20,7 +19,15 @@ namespace zelko {
 
 namespace {
 
-constexpr int kLongestLabelLine = 48;  // characters
+constexpr int kLongestLabelLine = 48;   // characters
+constexpr int kLongestButtonLine = 20;  // characters
+
+// A long caption stands in two lines, parted where it names two things, else in the middle.
+QString folded(QString caption) {
+  if (caption.size() <= kLongestButtonLine) return caption;
+  const qsizetype slash = caption.indexOf(u'/');
+  return caption.insert(slash >= 0 ? slash + 1 : caption.size() / 2, u'\n');
+}
 
 // A text that asks for a line as long as it is, within bounds, and wraps where there is less room.
 class Caption : public QLabel {
@@ -53,28 +60,13 @@ void makeLabel(View& view, QWidget* parent) {
   };
 }
 
-// A button doesn't wrap its caption by itself: one that the screen is too narrow for goes on in the next line.
-QString inLines(const QWidget& button, const QString& caption) {
-  const QFontMetrics metrics = button.fontMetrics();
-  const int longest = button.screen()->availableSize().width() * 3 / 4;
-  QString out, line;
-  for (const QChar ch : caption) {
-    if (metrics.horizontalAdvance(line + ch) > longest && !line.endsWith(u'&')) {
-      out += line + u'\n';
-      line.clear();
-    }
-    line += ch;
-  }
-  return out + line;
-}
-
 // A click on a button never moves the native focus or state by itself: the model says what became of it.
 void makeButton(View& view, QAbstractButton* button) {
   button->setFocusPolicy(Qt::TabFocus);
   button->setAutoExclusive(false);
   view.widget = button;
   view.push = [&view, button](Property property) {
-    if (property == Property::caption) button->setText(inLines(*button, toQt(view.control.caption())));
+    if (property == Property::caption) button->setText(folded(toQt(view.control.caption())));
     if (property == Property::value && button->isCheckable()) button->setChecked(view.control.value() != 0);
   };
   QObject::connect(button, &QAbstractButton::clicked, button, [&view] {
