@@ -30,8 +30,6 @@ void shiftData(void (*shift)(int), TextView sentence) {
   talkGated(sentence);
 }
 
-void putIntoBox(TextView text) { fillInputBox(text); }
-
 constexpr const char16_t* kHowToInsert =
     u"項目を挿入します。挿入したい位置の項目で、alt+←またはalt+→を叩くと、項目範囲の指定が始まります。"
     u"左右矢印キーで、挿入する項目数だけ範囲を広げ、CRキーで範囲を決めて下さい。その直後にInsキーを叩き、確認に、はい、"
@@ -65,8 +63,8 @@ void clearCell() {
 void registerCellCommands() {
   registerCommand(u"mnuCTRLU", copyCellToBox);
   registerCommand(u"mnuCTRLD", clearCell);
-  registerCommand(u"mnuTODAY", [] { putIntoBox(shortDate(host().now())); });
-  registerCommand(u"mnuNOW", [] { putIntoBox(shortTime(host().now())); });
+  registerCommand(u"mnuTODAY", [] { fillInputBox(shortDate(host().now())); });
+  registerCommand(u"mnuNOW", [] { fillInputBox(shortTime(host().now())); });
   registerCommand(u"mnuINS", [] { shiftData(shiftRight, u"ﾃﾞｰﾀｶﾞｲﾁｺｳﾓｸﾐｷﾞｼﾌﾄｼﾏｼﾀ"); });
   registerCommand(u"mnuSLEFT", [] { shiftData(shiftLeft, u"ﾃﾞｰﾀｶﾞｲﾁｺｳﾓｸﾋﾀﾞﾘｼﾌﾄｼﾏｼﾀ"); });
   registerCommand(u"mnuIDAUTO", idAuto);

@@ -57,4 +57,9 @@ void Desk::type(const char* letters) {
   for (; *letters; ++letters) press(*letters - 'a' + Qt::Key_A, {}, QString(QLatin1Char(*letters)));
 }
 
+void saveShot(QWidget& window, const QString& name) {
+  const QString folder = qEnvironmentVariable("ZELKO_SHOTS");
+  if (!folder.isEmpty()) CHECK(window.grab().save(folder + "/" + name + ".png"));
+}
+
 }  // namespace zelko

@@ -52,6 +52,9 @@ class Dialog : public Form {
   Button Command1{*this, u"Command1", u"了解"};
 };
 
+// A picture of the window, where ZELKO_SHOTS names a folder for them.
+void saveShot(QWidget& window, const QString& name);
+
 class Desk {
  public:
   Desk() { setHost(&host); }

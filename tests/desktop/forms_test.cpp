@@ -98,11 +98,6 @@ void fillEmptyLabels(Form& form) {
       control->setCaption(u"項目移動の範囲を開始項目番号と終了項目番号で入れてください。CRで実行、ESCで中止です。");
 }
 
-void saveShot(FormWindow& window, const QString& name) {
-  const QString folder = qEnvironmentVariable("ZELKO_SHOTS");
-  if (!folder.isEmpty()) CHECK(window.grab().save(folder + "/" + name + ".png"));
-}
-
 }  // namespace
 
 TEST_CASE("in every form nothing overlaps or is cut off, in small or large type, and the focus is seen") {

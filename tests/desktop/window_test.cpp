@@ -29,11 +29,6 @@ void checkNothingOverlaps(const Form& form, const FormWindow& window) {
   }
 }
 
-void saveShot(FormWindow& window, const QString& name) {
-  const QString folder = qEnvironmentVariable("ZELKO_SHOTS");
-  if (!folder.isEmpty()) CHECK(window.grab().save(folder + "/" + name + ".png"));
-}
-
 }  // namespace
 
 TEST_CASE("every control that is seen has a widget with a name, and nothing overlaps in small or large type") {
