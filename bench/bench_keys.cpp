@@ -10,10 +10,10 @@
 
 #include "app/wiring.h"
 #include "bench_table.h"
+#include "platform/forms/keys.h"
+#include "platform/forms/routing.h"
 #include "platform/headless/headless_host.h"
-#include "platform/keys.h"
-#include "platform/routing.h"
-#include "store/cursor.h"
+#include "store/table/cursor.h"
 #include "voice/talk.h"
 
 namespace {

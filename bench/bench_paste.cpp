@@ -7,11 +7,11 @@
 #include <string>
 
 #include "bench_table.h"
-#include "editor/clip.h"
+#include "editor/clip/clip.h"
 #include "editor/registereditor.h"
-#include "editor/view.h"
-#include "platform/files.h"
-#include "store/cursor.h"
+#include "editor/show/view.h"
+#include "platform/files/files.h"
+#include "store/table/cursor.h"
 #include "voice/talk.h"
 
 namespace {

@@ -10,12 +10,12 @@
 #include <string>
 
 #include "bench_table.h"
-#include "editor/rewrites.h"
-#include "editor/view.h"
-#include "store/cursor.h"
-#include "store/itemfile.h"
-#include "store/records.h"
-#include "store/rewrite.h"
+#include "editor/rewrites/rewrites.h"
+#include "editor/show/view.h"
+#include "store/records/records.h"
+#include "store/rewrite/rewrite.h"
+#include "store/table/cursor.h"
+#include "store/table/itemfile.h"
 #include "voice/talk.h"
 
 namespace {

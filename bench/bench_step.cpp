@@ -3,9 +3,9 @@
 #include <cstdio>
 
 #include "bench_table.h"
-#include "platform/files.h"
-#include "store/cursor.h"
-#include "store/records.h"
+#include "platform/files/files.h"
+#include "store/records/records.h"
+#include "store/table/cursor.h"
 
 namespace {
 

@@ -10,8 +10,8 @@
 #include <string>
 
 #include "platform/headless/headless_host.h"
-#include "platform/sjis.h"
-#include "store/itemfile.h"
+#include "platform/text/sjis.h"
+#include "store/table/itemfile.h"
 #include "voice/talk.h"
 
 namespace zelko::bench {

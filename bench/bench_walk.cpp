@@ -9,7 +9,7 @@
 
 #include "bench_table.h"
 #include "platform/host.h"
-#include "store/records.h"
+#include "store/records/records.h"
 
 namespace {
 

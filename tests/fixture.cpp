@@ -7,9 +7,9 @@
 #include <iterator>
 
 #include "platform/fault.h"
-#include "platform/files.h"
-#include "platform/form.h"
-#include "platform/sjis.h"
+#include "platform/files/files.h"
+#include "platform/forms/form.h"
+#include "platform/text/sjis.h"
 
 namespace zelko {
 

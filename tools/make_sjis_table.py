@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Writes src/platform/sjis_table.inc: the double-byte codes of code page 932, one line a lead byte.
+"""Writes src/platform/text/sjis_table.inc: the double-byte codes of code page 932, one line a lead byte.
 
-Usage: tools/make_sjis_table.py > src/platform/sjis_table.inc
+Usage: tools/make_sjis_table.py > src/platform/text/sjis_table.inc
 A line holds the characters of the trail bytes 40..7E and 80..FC; U+FFFD marks a code without a character.
 The user-defined leads F0..F9 (U+E000 on) are computed by the reader of the table.
 """

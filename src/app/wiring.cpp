@@ -1,11 +1,11 @@
 #include "app/wiring.h"
 
 #include "editor/registereditor.h"
-#include "files/design.h"
-#include "files/disk.h"
-#include "files/help.h"
-#include "files/hozon.h"
-#include "files/lunch.h"
+#include "files/design/design.h"
+#include "files/output/output.h"
+#include "files/picker/picker.h"
+#include "files/start/help.h"
+#include "files/start/startscreen.h"
 #include "voice/dialogs.h"
 #include "voice/narration.h"
 

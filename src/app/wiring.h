@@ -1,7 +1,7 @@
 // Puts the floors together: every folder registers its commands and forms, and the program starts.
 #pragma once
 
-#include "platform/text.h"
+#include "platform/text/text.h"
 
 namespace zelko {
 

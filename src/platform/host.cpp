@@ -1,6 +1,6 @@
 #include "platform/host.h"
 
-#include "platform/sjis.h"
+#include "platform/text/sjis.h"
 
 namespace zelko {
 namespace {

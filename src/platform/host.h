@@ -4,9 +4,9 @@
 #include <cstdint>
 #include <memory>
 
-#include "platform/control.h"
-#include "platform/daytime.h"
-#include "platform/text.h"
+#include "platform/forms/control.h"
+#include "platform/text/daytime.h"
+#include "platform/text/text.h"
 
 namespace zelko {
 

@@ -3,7 +3,7 @@
 
 #include <functional>
 
-#include "platform/text.h"
+#include "platform/text/text.h"
 
 namespace zelko {
 

@@ -1,7 +1,7 @@
 // Counters: how a number and the word behind it change each other's sound (イッカイ, サンボン, ツイタチ).
 #pragma once
 
-#include "platform/text.h"
+#include "platform/text/text.h"
 
 namespace zelko {
 

@@ -4,7 +4,7 @@
 #include <memory>
 #include <vector>
 
-#include "platform/text.h"
+#include "platform/text/text.h"
 
 namespace zelko {
 

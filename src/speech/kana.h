@@ -1,7 +1,7 @@
 // From a sentence of the program to what an engine that knows only kana can say.
 #pragma once
 
-#include "platform/text.h"
+#include "platform/text/text.h"
 #include "speech/dictionary.h"
 
 namespace zelko {

@@ -1,7 +1,7 @@
 // Words in Latin letters, as Japanese ears know them.
 #pragma once
 
-#include "platform/text.h"
+#include "platform/text/text.h"
 
 namespace zelko {
 

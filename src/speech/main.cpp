@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/text.h"
+#include "platform/text/text.h"
 #include "speech/dictionary.h"
 #include "speech/kana.h"
 #include "speech/reader.h"

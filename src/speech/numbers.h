@@ -1,7 +1,7 @@
 // Numbers as a Japanese speaker says them, for engines that read "123" place by place.
 #pragma once
 
-#include "platform/text.h"
+#include "platform/text/text.h"
 
 namespace zelko {
 

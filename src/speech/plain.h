@@ -1,7 +1,7 @@
 // The first step from a sentence to its sound: one spelling for each sign, so that the rules behind it stay short.
 #pragma once
 
-#include "platform/text.h"
+#include "platform/text/text.h"
 
 namespace zelko {
 

@@ -4,7 +4,7 @@
 #include <chrono>
 #include <memory>
 
-#include "platform/text.h"
+#include "platform/text/text.h"
 #include "speech/voice_service.h"
 
 namespace zelko {

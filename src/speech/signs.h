@@ -1,7 +1,7 @@
 // Signs: what each is called, and whether a sentence says its name or only pauses there.
 #pragma once
 
-#include "platform/text.h"
+#include "platform/text/text.h"
 
 namespace zelko {
 

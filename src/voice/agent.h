@@ -1,8 +1,8 @@
 // The form behind the second speech channel: what is written into its box, the talking character says.
 #pragma once
 
-#include "platform/controls.h"
-#include "platform/form.h"
+#include "platform/forms/controls.h"
+#include "platform/forms/form.h"
 
 namespace zelko {
 

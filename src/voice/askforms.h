@@ -1,8 +1,8 @@
 // The question with yes, no and cancel, and the entry of one line.
 #pragma once
 
-#include "platform/controls.h"
-#include "platform/form.h"
+#include "platform/forms/controls.h"
+#include "platform/forms/form.h"
 
 namespace zelko {
 

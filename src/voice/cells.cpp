@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "platform/number.h"
-#include "platform/sjis.h"
-#include "store/cursor.h"
-#include "store/records.h"
+#include "platform/text/number.h"
+#include "platform/text/sjis.h"
+#include "store/records/records.h"
+#include "store/table/cursor.h"
 #include "voice/names.h"
 #include "voice/talk.h"
 

@@ -1,7 +1,7 @@
 // Sentences about cells: where the cursor is, what a cell holds, what was typed into it.
 #pragma once
 
-#include "platform/text.h"
+#include "platform/text/text.h"
 #include "voice/cellhooks.h"
 
 namespace zelko {

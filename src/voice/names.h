@@ -1,7 +1,7 @@
 // Reading text aloud: names of characters, words for an edit, keys in a text box, the caret.
 #pragma once
 
-#include "platform/text.h"
+#include "platform/text/text.h"
 
 namespace zelko {
 

@@ -3,11 +3,11 @@
 
 #include <functional>
 
-#include "platform/controls.h"
-#include "platform/form.h"
-#include "platform/grid.h"
-#include "platform/lists.h"
-#include "platform/text.h"
+#include "platform/forms/controls.h"
+#include "platform/forms/form.h"
+#include "platform/forms/grid.h"
+#include "platform/forms/lists.h"
+#include "platform/text/text.h"
 
 namespace zelko {
 

@@ -1,8 +1,8 @@
 // The message, the question with OK or cancel, and the closing form of a computation.
 #pragma once
 
-#include "platform/controls.h"
-#include "platform/form.h"
+#include "platform/forms/controls.h"
+#include "platform/forms/form.h"
 
 namespace zelko {
 

@@ -3,7 +3,7 @@
 #include <exception>
 
 #include "platform/host.h"
-#include "platform/number.h"
+#include "platform/text/number.h"
 #include "voice/narration.h"
 #include "voice/progressform.h"
 #include "voice/talk.h"

@@ -1,8 +1,8 @@
 // The form that stands while long work runs.
 #pragma once
 
-#include "platform/controls.h"
-#include "platform/form.h"
+#include "platform/forms/controls.h"
+#include "platform/forms/form.h"
 
 namespace zelko {
 

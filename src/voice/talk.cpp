@@ -2,10 +2,10 @@
 
 #include <cmath>
 
-#include "platform/control.h"
 #include "platform/fault.h"
-#include "platform/files.h"
-#include "platform/form.h"
+#include "platform/files/files.h"
+#include "platform/forms/control.h"
+#include "platform/forms/form.h"
 #include "platform/host.h"
 #include "voice/agent.h"
 

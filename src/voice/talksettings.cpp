@@ -1,8 +1,8 @@
 // The two speech settings that outlive a run, each a number on one line.
 #include "platform/fault.h"
-#include "platform/files.h"
-#include "platform/number.h"
-#include "platform/printline.h"
+#include "platform/files/files.h"
+#include "platform/text/number.h"
+#include "platform/text/printline.h"
 #include "voice/talk.h"
 
 namespace zelko {

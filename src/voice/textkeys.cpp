@@ -1,9 +1,9 @@
 // Text boxes by ear: what a key-up says of text, selection and caret.
 #include <cstdlib>
 
-#include "platform/controls.h"
-#include "platform/form.h"
-#include "platform/number.h"
+#include "platform/forms/controls.h"
+#include "platform/forms/form.h"
+#include "platform/text/number.h"
 #include "voice/names.h"
 #include "voice/narration.h"
 #include "voice/talk.h"

@@ -6,12 +6,12 @@
 #include <set>
 
 #include "app/wiring.h"
-#include "editor/state.h"
-#include "editor/view.h"
+#include "editor/main/state.h"
+#include "editor/show/view.h"
 #include "fixture.h"
-#include "platform/form.h"
-#include "store/cursor.h"
-#include "store/table.h"
+#include "platform/forms/form.h"
+#include "store/table/cursor.h"
+#include "store/table/table.h"
 #include "voice/talk.h"
 
 using namespace zelko;

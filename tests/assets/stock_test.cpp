@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/sjis.h"
+#include "platform/text/sjis.h"
 
 namespace {
 

@@ -13,8 +13,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/sjis.h"
-#include "platform/text.h"
+#include "platform/text/sjis.h"
+#include "platform/text/text.h"
 
 namespace fs = std::filesystem;
 

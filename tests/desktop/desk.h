@@ -7,11 +7,11 @@
 #include <QString>
 #include <vector>
 
-#include "platform/controls.h"
-#include "platform/form.h"
-#include "platform/grid.h"
-#include "platform/keys.h"
-#include "platform/lists.h"
+#include "platform/forms/controls.h"
+#include "platform/forms/form.h"
+#include "platform/forms/grid.h"
+#include "platform/forms/keys.h"
+#include "platform/forms/lists.h"
 #include "platform/qt/qthost.h"
 
 namespace zelko {

@@ -1,10 +1,10 @@
 #include "editor/editor_fixture.h"
 
+#include "editor/main/state.h"
 #include "editor/registereditor.h"
-#include "editor/state.h"
-#include "editor/view.h"
-#include "store/cursor.h"
-#include "store/table.h"
+#include "editor/show/view.h"
+#include "store/table/cursor.h"
+#include "store/table/table.h"
 #include "voice/talk.h"
 
 namespace zelko::test {

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "editor/form1.h"
+#include "editor/main/form1.h"
 #include "fixture.h"
 
 namespace zelko::test {

@@ -1,14 +1,14 @@
 #include "files/files_fixture.h"
 
+#include "editor/main/state.h"
 #include "editor/registereditor.h"
-#include "editor/state.h"
-#include "editor/view.h"
-#include "files/design.h"
-#include "files/disk.h"
-#include "files/help.h"
-#include "files/hozon.h"
-#include "store/cursor.h"
-#include "store/table.h"
+#include "editor/show/view.h"
+#include "files/design/design.h"
+#include "files/output/output.h"
+#include "files/picker/picker.h"
+#include "files/start/help.h"
+#include "store/table/cursor.h"
+#include "store/table/table.h"
 #include "voice/talk.h"
 
 namespace zelko::test {

@@ -3,13 +3,13 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "editor/clip.h"
-#include "editor/formula.h"
+#include "editor/clip/clip.h"
+#include "editor/formulas/formula.h"
 #include "editor/registereditor.h"
-#include "editor/view.h"
+#include "editor/show/view.h"
 #include "platform/fault.h"
-#include "platform/files.h"
-#include "platform/sjis.h"
+#include "platform/files/files.h"
+#include "platform/text/sjis.h"
 #include "store/store_fixture.h"
 #include "store/store_host.h"
 

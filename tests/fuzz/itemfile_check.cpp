@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <numeric>
 
-#include "platform/files.h"
+#include "platform/files/files.h"
 #include "store/store_fixture.h"
 #include "store/store_host.h"
 

@@ -9,9 +9,9 @@
 #include <iterator>
 #include <stdexcept>
 
-#include "platform/files.h"
-#include "store/mainform.h"
+#include "platform/files/files.h"
 #include "store/store_host.h"
+#include "store/table/mainform.h"
 #include "voice/talk.h"
 
 namespace zelko::test {

@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "platform/host.h"
-#include "store/cursor.h"
-#include "store/itemfile.h"
-#include "store/records.h"
+#include "store/records/records.h"
+#include "store/table/cursor.h"
+#include "store/table/itemfile.h"
 
 namespace zelko::test {
 

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "platform/form.h"
+#include "platform/forms/form.h"
 #include "platform/headless/headless_host.h"
 
 namespace zelko::test {

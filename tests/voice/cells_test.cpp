@@ -3,10 +3,10 @@
 #include <doctest/doctest.h>
 
 #include "fixture.h"
-#include "store/cursor.h"
-#include "store/itemfile.h"
-#include "store/records.h"
-#include "store/table.h"
+#include "store/records/records.h"
+#include "store/table/cursor.h"
+#include "store/table/itemfile.h"
+#include "store/table/table.h"
 #include "voice/talk.h"
 
 using namespace zelko;

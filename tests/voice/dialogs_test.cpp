@@ -3,7 +3,7 @@
 #include <doctest/doctest.h>
 
 #include "fixture.h"
-#include "platform/form.h"
+#include "platform/forms/form.h"
 #include "voice/okforms.h"
 #include "voice/progress.h"
 #include "voice/progressform.h"

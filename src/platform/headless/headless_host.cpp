@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include "platform/controls.h"
-#include "platform/form.h"
-#include "platform/routing.h"
+#include "platform/forms/controls.h"
+#include "platform/forms/form.h"
+#include "platform/forms/routing.h"
 
 namespace zelko {
 namespace {

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "platform/controls.h"
-#include "platform/form.h"
+#include "platform/forms/controls.h"
+#include "platform/forms/form.h"
+#include "platform/forms/routing.h"
 #include "platform/headless/show.h"
-#include "platform/routing.h"
 
 namespace zelko {
 namespace {

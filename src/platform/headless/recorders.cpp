@@ -2,7 +2,7 @@
 
 #include <cstdio>
 
-#include "platform/sjis.h"
+#include "platform/text/sjis.h"
 
 namespace zelko {
 namespace {

@@ -9,8 +9,8 @@
 #include <optional>
 
 #include "platform/fault.h"
-#include "platform/files.h"
-#include "platform/form.h"
+#include "platform/files/files.h"
+#include "platform/forms/form.h"
 #include "platform/headless/player.h"
 
 namespace zelko {

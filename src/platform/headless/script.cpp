@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <optional>
 
-#include "platform/routing.h"
+#include "platform/forms/routing.h"
 
 namespace zelko {
 namespace {

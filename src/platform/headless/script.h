@@ -6,9 +6,9 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/daytime.h"
-#include "platform/keys.h"
-#include "platform/text.h"
+#include "platform/forms/keys.h"
+#include "platform/text/daytime.h"
+#include "platform/text/text.h"
 
 namespace zelko {
 

@@ -2,11 +2,11 @@
 
 #include <cstdio>
 
-#include "platform/controls.h"
-#include "platform/form.h"
-#include "platform/grid.h"
+#include "platform/forms/controls.h"
+#include "platform/forms/form.h"
+#include "platform/forms/grid.h"
+#include "platform/forms/lists.h"
 #include "platform/headless/script.h"
-#include "platform/lists.h"
 
 namespace zelko {
 namespace {

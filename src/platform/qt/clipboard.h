@@ -1,7 +1,7 @@
 // The clipboard, which is the speech channel: what is put there stands, or the caller is told.
 #pragma once
 
-#include "platform/text.h"
+#include "platform/text/text.h"
 
 namespace zelko {
 

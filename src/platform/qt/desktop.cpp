@@ -8,8 +8,8 @@
 #include <memory>
 
 #include "platform/fault.h"
-#include "platform/files.h"
-#include "platform/form.h"
+#include "platform/files/files.h"
+#include "platform/forms/form.h"
 #include "platform/qt/accessibility.h"
 #include "platform/qt/darkmode.h"
 #include "platform/qt/keeper.h"

@@ -7,13 +7,13 @@
 #include <QTimer>
 #include <utility>
 
-#include "platform/controls.h"
-#include "platform/form.h"
+#include "platform/forms/controls.h"
+#include "platform/forms/form.h"
+#include "platform/forms/keys.h"
+#include "platform/forms/routing.h"
 #include "platform/host.h"
-#include "platform/keys.h"
 #include "platform/qt/guard.h"
 #include "platform/qt/qstring.h"
-#include "platform/routing.h"
 
 namespace zelko {
 

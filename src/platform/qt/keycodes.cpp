@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "platform/keys.h"
-#include "platform/routing.h"
+#include "platform/forms/keys.h"
+#include "platform/forms/routing.h"
 
 namespace zelko {
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "platform/controls.h"
-#include "platform/form.h"
+#include "platform/forms/controls.h"
+#include "platform/forms/form.h"
 #include "platform/qt/page.h"
 #include "platform/qt/view.h"
 

@@ -6,7 +6,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "platform/form.h"
+#include "platform/forms/form.h"
 
 namespace zelko {
 

@@ -3,8 +3,8 @@
 
 #include <QString>
 
-#include "platform/control.h"
-#include "platform/text.h"
+#include "platform/forms/control.h"
+#include "platform/text/text.h"
 
 namespace zelko {
 

@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/form.h"
+#include "platform/forms/form.h"
 #include "platform/qt/clipboard.h"
 #include "platform/qt/desktop.h"
 #include "platform/qt/qstring.h"

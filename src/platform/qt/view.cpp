@@ -9,8 +9,8 @@
 #include <QTimer>
 #include <algorithm>
 
-#include "platform/controls.h"
-#include "platform/form.h"
+#include "platform/forms/controls.h"
+#include "platform/forms/form.h"
 #include "platform/qt/guard.h"
 #include "platform/qt/page.h"
 #include "platform/qt/qstring.h"

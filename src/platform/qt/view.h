@@ -5,7 +5,7 @@
 #include <functional>
 #include <memory>
 
-#include "platform/control.h"
+#include "platform/forms/control.h"
 
 namespace zelko {
 

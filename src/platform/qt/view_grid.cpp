@@ -8,8 +8,8 @@
 #include <QTimer>
 #include <algorithm>
 
-#include "platform/form.h"
-#include "platform/grid.h"
+#include "platform/forms/form.h"
+#include "platform/forms/grid.h"
 #include "platform/qt/guard.h"
 #include "platform/qt/qstring.h"
 #include "platform/qt/view.h"

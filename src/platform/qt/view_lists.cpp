@@ -7,8 +7,8 @@
 #include <QTimer>
 #include <algorithm>
 
-#include "platform/form.h"
-#include "platform/lists.h"
+#include "platform/forms/form.h"
+#include "platform/forms/lists.h"
 #include "platform/qt/guard.h"
 #include "platform/qt/look.h"
 #include "platform/qt/qstring.h"

@@ -2,7 +2,7 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "platform/grid.h"
+#include "platform/forms/grid.h"
 #include "platform/qt/qstring.h"
 #include "platform/qt/view.h"
 

@@ -8,8 +8,8 @@
 #include <algorithm>
 #include <limits>
 
-#include "platform/controls.h"
-#include "platform/form.h"
+#include "platform/forms/controls.h"
+#include "platform/forms/form.h"
 #include "platform/qt/guard.h"
 #include "platform/qt/look.h"
 #include "platform/qt/qstring.h"

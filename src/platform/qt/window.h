@@ -7,7 +7,7 @@
 #include <memory>
 #include <vector>
 
-#include "platform/form.h"
+#include "platform/forms/form.h"
 #include "platform/qt/look.h"
 #include "platform/qt/menubar.h"
 #include "platform/qt/view.h"

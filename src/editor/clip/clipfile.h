@@ -1,0 +1,67 @@
+// The two files behind the clip commands, as they lie on disk; see docs/clip-file.md. They lie in the program's folder.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "platform/files/files.h"
+#include "platform/text/text.h"
+#include "store/table/table.h"
+
+namespace zelko {
+
+// The rectangle that a clip is made from; the first of a pair is not above the second.
+struct Block {
+  std::int32_t rec1, rec2;
+  std::int16_t item1, item2;
+};
+
+// Writes a clip file, replacing the old one. Each call gives the error so far; close gives that of the whole.
+class ClipWriter {
+ public:
+  ~ClipWriter() { close(); }
+  FileError open(const Block& block);
+  FileError cell(TextView text);
+  FileError close();
+};
+
+// Reads a clip file. A comma ends a field, wherever it stands: a cell that holds one slips into the next.
+class ClipReader {
+ public:
+  ~ClipReader() { close(); }
+  bool open();    // false where there is none
+  bool header();  // false where its lines run out or a count is none
+  std::int32_t records() const { return records_; }
+  std::int32_t items() const { return items_; }
+  bool next(Text& cell);  // false where the lines have run out
+  void close();
+
+ private:
+  bool field(Text& out);
+  bool counted(std::int32_t& count);
+
+  Text line_;
+  std::size_t at_ = 0;
+  bool rest_ = false;  // the line goes on behind a comma
+  std::int32_t records_ = 0, items_ = 0;
+};
+
+// The records as they were before a paste, byte for byte up to the end of the last item.
+class BackupWriter {
+ public:
+  ~BackupWriter() { close(); }
+  FileError open(std::int32_t first);
+  FileError record(const CacheRow& row);
+  FileError close();
+};
+
+class BackupReader {
+ public:
+  ~BackupReader() { close(); }
+  // The number of the first record; 0 where there is no backup, or none that can be read.
+  std::int32_t open();
+  bool next(std::string& bytes);  // false at the end, or where a line was cut off
+  void close();
+};
+
+}  // namespace zelko

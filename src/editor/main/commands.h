@@ -1,0 +1,17 @@
+// Menu commands by name: the table of the menu is the editor's, the commands come from every floor above.
+#pragma once
+
+#include <functional>
+
+#include "platform/text/text.h"
+
+namespace zelko {
+
+// Serves the menu entry of that name; the last one wins. An entry that nobody serves beeps.
+void registerCommand(TextView menuName, std::function<void()> command);
+// What serves the entry; empty where nobody does.
+const std::function<void()>& commandOf(TextView menuName);
+// Runs what serves the entry; a beep where nobody does.
+void runCommand(TextView menuName);
+
+}  // namespace zelko

@@ -1,0 +1,14 @@
+// The keys of the input box: key-down acts, key-up speaks.
+#pragma once
+
+#include "platform/forms/keys.h"
+
+namespace zelko {
+
+// In the order in which a key is looked at: choosing a range, a finished range, Ctrl+F, sums, dropping a range, Esc,
+// moves. A key that was used is swallowed.
+void inputKeyDown(KeyEvent& key);
+// The questions and the caret; each branch holds the gate.
+void inputKeyUp(KeyEvent& key);
+
+}  // namespace zelko

@@ -1,0 +1,24 @@
+// How typed text becomes part of a record: what the moves and the input box share.
+#pragma once
+
+#include "editor/main/state.h"
+
+namespace zelko {
+
+// A move from the input box runs: the box that is being cleared is not echoed.
+class MoveScope {
+ public:
+  MoveScope() : kept_(moveFlag) { moveFlag = 1; }
+  ~MoveScope() { moveFlag = kept_; }
+  MoveScope(const MoveScope&) = delete;
+  MoveScope& operator=(const MoveScope&) = delete;
+
+ private:
+  std::int16_t kept_;
+};
+
+// The given text in place of what the box holds, unheard; the echo memory takes it over.
+void setInputSilently(TextView text);
+void focusInputBox();
+
+}  // namespace zelko

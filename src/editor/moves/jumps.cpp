@@ -1,0 +1,117 @@
+#include "editor/moves/jumps.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "editor/main/commands.h"
+#include "editor/main/state.h"
+#include "editor/moves/commit.h"
+#include "editor/moves/moves.h"
+#include "platform/host.h"
+#include "platform/text/number.h"
+#include "platform/text/width.h"
+#include "store/records/records.h"
+#include "store/table/cursor.h"
+#include "voice/dialogs.h"
+
+namespace zelko {
+
+namespace {
+
+std::int16_t firstDataItem() { return itemCount == 0 ? std::int16_t{0} : std::int16_t{1}; }
+
+void goToItem(std::int16_t item) {
+  curItem = item;
+  dispAll(curItem);
+  showCell(static_cast<float>(curRec), curItem, {}, {});
+}
+
+}  // namespace
+
+void goToFirstRecord() {
+  MoveScope moving;
+  commitBox();
+  cacheBase = 1;
+  goTo(1, curItem);
+}
+
+void goToLastRecord() {
+  MoveScope moving;
+  commitBox();
+  goTo(std::max(recCount(), 1), curItem);
+}
+
+void goToNewLine() {
+  MoveScope moving;
+  commitBox();
+  goTo(recCount() + 1, curItem);
+}
+
+void goToLastItem() {
+  MoveScope moving;
+  commitBox();
+  goToItem(itemCount);
+}
+
+void goToFirstItem() {
+  MoveScope moving;
+  commitBox();
+  goToItem(firstDataItem());
+}
+
+void goHome() {
+  MoveScope moving;
+  commitBox();
+  cacheBase = 1;
+  goTo(1, firstDataItem());
+}
+
+void goToNextRecordStart() {
+  MoveScope moving;
+  commitBox();
+  if (curRec <= recCount()) curItem = firstDataItem();
+  nextRec(curItem);
+}
+
+int targetOf(TextView answer, int from, int lowest, int highest) {
+  const Text text = trimmed(toHalfWidth(answer));
+  const bool relative = text.starts_with(u'+') || text.starts_with(u'-');
+  const double wanted = std::nearbyint(val(text)) + (relative ? from : 0);
+  return static_cast<int>(std::clamp<double>(wanted, lowest, std::max(lowest, highest)));
+}
+
+void askRecord() {
+  const Text answer =
+      talkAsk(u"第何記録に飛びますか？（なお、＋－付きで数値を指定すると、今の記録からの相対指定になります",
+              u"指定記録へ移動", {});
+  if (trimmed(answer).empty()) return;
+  waitBehindDialog();
+  MoveScope moving;
+  commitBox();
+  goTo(targetOf(answer, curRec, 1, recCount()), curItem);
+}
+
+void askItem() {
+  const Text answer =
+      talkAsk(u"第何項目に飛びますか？（なお、＋－付きで数値を指定すると、今の項目からの相対指定になります",
+              u"指定項目へ移動", {});
+  if (trimmed(answer).empty()) return;
+  waitBehindDialog();
+  MoveScope moving;
+  commitBox();
+  goToItem(static_cast<std::int16_t>(targetOf(answer, curItem, 0, itemCount)));
+}
+
+void registerJumps() {
+  registerCommand(u"mnuJUMP", askRecord);
+  registerCommand(u"mnuHJ", askItem);
+  registerCommand(u"mnuEXTD", goToLastRecord);
+  registerCommand(u"mnuNr", goToNewLine);
+  registerCommand(u"mnuEXTTOP", goToFirstRecord);
+  registerCommand(u"mnuEXTR", goToLastItem);
+  registerCommand(u"mnuEXTL", goToFirstItem);
+  registerCommand(u"mnuHOME", goHome);
+  registerCommand(u"mnuCTRLP", goToNextRecordStart);
+}
+
+}  // namespace zelko

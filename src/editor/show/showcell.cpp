@@ -1,0 +1,96 @@
+// What is shown for the cursor: the controls of the main form, the view beside it, the title.
+#include <algorithm>
+
+#include "editor/main/form1.h"
+#include "editor/main/state.h"
+#include "editor/moves/commit.h"
+#include "editor/moves/moves.h"
+#include "editor/show/card.h"
+#include "editor/show/sheet.h"
+#include "platform/text/number.h"
+#include "store/records/records.h"
+#include "store/table/cursor.h"
+#include "store/table/mainform.h"
+
+namespace zelko {
+namespace {
+
+// Twips of the main form as it is laid out at 100 %.
+constexpr int kFormWidth = 11895, kInputLeft = 1320, kRightMargin = 200;
+
+Text entryItemList() {
+  if (allItemsOn == 1) return u"全項目";
+  Text list;
+  for (int i = 0; i <= itemCount; ++i) {
+    if (entryItem[static_cast<std::size_t>(i)] == 1) list += decimal(i) + u",";
+  }
+  return list;
+}
+
+Text idCaption() {
+  Text id = trimmed(cellOfCur(0));
+  return autoIdOn == 1 ? id + u"(自動更新！)" : id;
+}
+
+void refreshAlwaysShown() {
+  if (spItem == kNoItem) return;
+  Form* view = screen().loaded(u"frmSPITEM");
+  Control* label = view ? view->find(u"Label1") : nullptr;
+  if (label) label->setCaption(trimmed(cellOfCur(spItem)));
+}
+
+bool focusBelongsElsewhere() {
+  static constexpr TextView kWords[] = {u"chfln", u"move", u"moveitem",   u"moverecord",
+                                        u"copy",  u"srch", u"narabekaef", u"HTYU"};
+  for (TextView word : kWords) {
+    if (mode == word) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+void showCell(float record, float item, TextView preset, TextView) {
+  Form1& main = form<Form1>();
+  main.storeNames();
+  Form1::Filling filling(main);
+  auto i = static_cast<std::size_t>(item);
+  // A single holds no more than 24 bits: the cursor itself is meant where it rounds to the same.
+  std::int32_t wanted = record == static_cast<float>(curRec) ? curRec : static_cast<std::int32_t>(record);
+  takeRow(wanted);
+  refreshAlwaysShown();
+  main.txtREC.setText(decimal(wanted));
+  takeRow(wanted);
+  main.Text1.setText(decimal(itemCount));
+  main.Label13.setCaption(idCaption());
+  main.txtItemnum.setText(decimal(static_cast<std::int64_t>(i)));
+  main.showItem(static_cast<std::int16_t>(i));
+  main.txtinputbox.setWidth(std::min(itemWidth[i] * boxCharTwips, kFormWidth - kInputLeft - kRightMargin));
+  main.txtinputbox.setText(preset);
+  main.showMemo();
+  main.Label11.setCaption(entryItemList());
+}
+
+void dispAll(std::int16_t&) {
+  if (viewKind == 1) {
+    if (auto* card = loadedForm<frmKOJIND>()) card->repaint();
+    return;
+  }
+  if (auto* sheet = loadedForm<frmSHEET>()) sheet->repaint();
+  if (!focusBelongsElsewhere()) focusInputBox();
+}
+
+void showTitle() {
+  Text drive = docDrive.empty() ? Text() : docDrive + u":";
+  form<Form1>().setCaption(u"Zelko (" + drive + docPath + u"/記録数:" + decimal(recCount()) + u")");
+  if (auto* sheet = loadedForm<frmSHEET>()) sheet->showHead();
+}
+
+bool readOnlyMarkShown() {
+  Form1* main = loadedForm<Form1>();
+  return main && main->Label1.visible();
+}
+
+void showReadOnlyMark(bool shown) { form<Form1>().Label1.setVisible(shown); }
+
+}  // namespace zelko

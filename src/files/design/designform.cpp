@@ -1,0 +1,193 @@
+// What table design is made of, and how its controls speak.
+#include "files/design/designform.h"
+
+#include "files/picker/pickerwords.h"
+#include "platform/host.h"
+#include "platform/text/number.h"
+#include "store/rewrite/rewrite.h"
+#include "store/table/cursor.h"
+#include "store/table/itemfile.h"
+#include "voice/names.h"
+#include "voice/narration.h"
+#include "voice/talk.h"
+
+namespace zelko {
+
+namespace {
+
+constexpr TextView kExplanation =
+    u"。表の項目数、各項目の項目名、左づめ　右づめ、項目幅を決めるフォームです。項目区切り設定ヒョウでは、"
+    u"リターンキーで　項目名、配置、項目幅の順に　書き込みセルが移動します。シフト　リターンキーで　もどります。"
+    u"上下の矢印キーで　項目が移動し、最後の項目で下矢印をたたくと　項目数が増えます。"
+    u"シフト　コントロール　デリートで　項目の削除、シフト　コントロール　インサートで　項目の挿入です。"
+    u"タブキーで、項目数、表メモ、ファイル名の　テキストボックスや、ボタンに移動します。"
+    u"ﾋｮｳの記入が終わったら　決定ボタンを押してください。中止わ　ｴｽｹｰﾌﾟｷｰです。";
+
+constexpr TextView kCountHelp =
+    u"コウモクスウを記入するリッチテキストボックスです､項目番号ゼロ番を除いた、項目のかずを記入してください。";
+
+}  // namespace
+
+frmDESIGN::frmDESIGN() : Form(kName, u"項目区切りの設定") {
+  setHeadings();
+  changesTable_ = mode == u"tdesign" && !docPath.empty();
+  changesTable_ ? startFromTable() : startNew();
+  boxes_.open(docPath.empty() ? appDir : besideTable({}));
+  wireBoxes();
+  wireCells();
+  wireReference();
+  wireButtons();
+  unvisible();
+  onActivate = [this] { frmDESIGN_Activate(); };
+  onClose = [this] { frmDESIGN_Command2_Click(); };
+  onUnload = [] {
+    if (mode == u"SVCread") mode.clear();
+  };
+  narrate();
+  moveTo(1, DesignColumn::name);
+  itemin.setFocus();
+}
+
+void frmDESIGN::startNew() {
+  oldItems_ = {-1};
+  Grid1.setRows(2);
+  setRow(0, {u"ID No", u"L", {}, -1});
+  setBoxes({}, {}, appDir + u"NoName");
+}
+
+void frmDESIGN::startFromTable() {
+  const std::vector<ItemLine> items = itemsOnDisk();
+  fill(items);
+  Text name = joinName(docDrive, docPath);
+  if (name.ends_with(u".txt")) name.erase(name.size() - 4);
+  setBoxes(decimal(itemCount), tableMemo, name);
+}
+
+void frmDESIGN::setBoxes(TextView count, TextView memo, TextView file) {
+  text1.setText(count);
+  text2.setText(memo);
+  text3.setText(file);
+  lastCount_ = count;
+  lastMemo_ = memo;
+  presetFile_ = lastFile_ = file;
+}
+
+void frmDESIGN::wireBoxes() {
+  text1.labelledBy = &Label1;
+  text2.labelledBy = &Label2;
+  text3.labelledBy = &Label10;
+  for (Control* control :
+       {static_cast<Control*>(&Label2), static_cast<Control*>(&Label10), static_cast<Control*>(&Label4),
+        static_cast<Control*>(&Label3), static_cast<Control*>(&Grid1), static_cast<Control*>(&itemin),
+        static_cast<Control*>(&Label8), static_cast<Control*>(&Command1), static_cast<Control*>(&Label5)})
+    control->place = Place::newRow;
+  text1.onChange = [this] { frmDESIGN_box_Change(text1, lastCount_); };
+  text2.onChange = [this] { frmDESIGN_box_Change(text2, lastMemo_); };
+  text3.onChange = [this] { frmDESIGN_box_Change(text3, lastFile_); };
+  for (RichTextBox* box : {&text1, &text2, &text3})
+    box->onKeyDown = [this, box](KeyEvent& key) { frmDESIGN_box_KeyDown(*box, key); };
+  // Typing replaces the number, the name and the cell, and goes on behind the memo.
+  for (RichTextBox* box : {&text1, &text3, &itemin}) {
+    box->onGotFocus = [this, box] {
+      box->setSelection(0, static_cast<int>(box->content().size()));
+      marked_ = true;
+    };
+  }
+  text2.onGotFocus = [this] {
+    text2.moveCaretToEnd();
+    marked_ = false;
+  };
+  text1.onLostFocus = [this] { frmDESIGN_text1_LostFocus(); };
+}
+
+void frmDESIGN::wireCells() {
+  itemin.labelledBy = &Label3;
+  itemin.onKeyDown = [this](KeyEvent& key) { frmDESIGN_itemin_KeyDown(key); };
+  itemin.onKeyPress = [this](CharEvent& event) { frmDESIGN_itemin_KeyPress(event); };
+  itemin.onChange = [this] { frmDESIGN_itemin_Change(); };
+  itemin.onLostFocus = [this] { frmDESIGN_itemin_LostFocus(); };
+  Label9.onClick = [this] { frmDESIGN_Label9_Click(); };
+  Grid1.tabStop = false;
+  Grid1.onRowColChange = [this] { frmDESIGN_Grid1_RowColChange(); };
+}
+
+void frmDESIGN::wireReference() {
+  File1.setPattern(u"k?*.txt");
+  boxes_.shownName = tableOfItemFile;
+  File1.onClick = [this] { frmDESIGN_File1_Click(); };
+  File1.onDblClick = [this] { frmDESIGN_Command3_Click(); };
+  File1.onKeyPress = [this](CharEvent& event) {
+    if (event.ch != key::Enter) return;
+    event.ch = 0;
+    frmDESIGN_Command3_Click();
+  };
+}
+
+void frmDESIGN::wireButtons() {
+  Command1.onClick = [this] { frmDESIGN_Command1_Click(); };
+  Command2.onClick = [this] { frmDESIGN_Command2_Click(); };
+  Command3.onClick = [this] { frmDESIGN_Command3_Click(); };
+  Command2.isCancel = true;
+}
+
+void frmDESIGN::narrate() {
+  Narration voice(*this);
+  voice.explain(kExplanation);
+  voice.box(text1, u"項目数ﾃｷｽﾄﾎﾞｯｸｽ。" + Text(kCountHelp)).box(text2, u"表メモﾃｷｽﾄﾎﾞｯｸｽ");
+  voice.box(text3, Label10.caption() + u"ﾃｷｽﾄﾎﾞｯｸｽ。" + Label4.caption());
+  voice.box(itemin, [this] { return cellSentence(); });
+  boxes_.narrate(voice);
+  voice.say(File1, [this] {
+    if (File1.listIndex() < 0)
+      return u"ファイル、" + (File1.count() == 0 ? Text(kNoFileHere) : Text()) + u"ﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽ";
+    return shapeOfChosen() + u"ﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽ";
+  });
+  voice.say(Command1, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ。" + Label8.caption()).say(Command2, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ");
+  voice.say(Command3, [this]() -> Text {
+    if (File1.visible())
+      return u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ。選択したファイルの　項目設定を　項目区切り設定ヒョウに写し、リストを閉じます。";
+    return u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ。他のファイルの　項目設定を参照する　ファイルリストを開きます。";
+  });
+}
+
+void frmDESIGN::frmDESIGN_Activate() {
+  if (opened_) return;
+  opened_ = true;
+  // The form below may have spoken when it was shown.
+  if (talkMode != 0) waitSec(talkGap);
+  talkS(*this, u"ファイルデザインフォームが開かれました。");
+}
+
+void frmDESIGN::frmDESIGN_box_Change(RichTextBox& box, Text& previous) {
+  if (moving_) {
+    previous = box.content();
+    return;
+  }
+  if (const Text line = withoutLineEnds(box.content()); line != box.content()) {
+    moving_ = true;
+    const Text before = previous;
+    box.setText(line);
+    box.moveCaretToEnd();
+    previous = before;
+    moving_ = false;
+  }
+  sayChange(box, previous);
+}
+
+// A text in the place of the whole old one is heard as it is, not as what differs.
+void frmDESIGN::sayChange(const RichTextBox& box, Text& previous) {
+  if (marked_ && !box.content().empty()) previous.clear();
+  marked_ = false;
+  talkRichChange(box, previous);
+}
+
+// These boxes hold one line: Return goes on to the next control.
+void frmDESIGN::frmDESIGN_box_KeyDown(RichTextBox& box, KeyEvent& key) {
+  marked_ = isWholeMarked(box);
+  if (key.code != key::Enter) return;
+  key.swallow();
+  if (&box == &text3) return itemin.setFocus();
+  if (Control* next = nextControl(&box, 1)) next->setFocus();
+}
+
+}  // namespace zelko

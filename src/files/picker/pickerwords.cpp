@@ -1,0 +1,113 @@
+#include "files/picker/pickerwords.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace zelko {
+
+namespace {
+
+constexpr TextView kItemFiles = u"k?*.txt";
+constexpr TextView kChoose = u" ﾌｧｲﾙを指定して下さい。";
+
+// The first row serves every other word.
+constexpr PickerJob kJobs[] = {
+    {u"", u"Zelkoﾌｧｲﾙ指定", kItemFiles, u"読み込み(CR)", u"ﾌｧｲﾙ", kChoose, true},
+    {u"delfile", u"削除ﾌｧｲﾙ指定", kItemFiles, u"削除(CR)", u"ﾌｧｲﾙ", u"", true},
+    {u"LAYOUT", u"ﾚｲｱｳﾄﾌｧｲﾙ指定", u"*(*).LAY", u"読込(CR)", u"ﾚｲｱｳﾄ",
+     u"レイアウトファイルを指定してください。なおDeleteキーでファイル削除です", false},
+    {u"REF", u"Zelkoﾌｧｲﾙ指定", kItemFiles, u"読み込み(CR)", u"参照ﾌｧｲﾙ", kChoose, true},
+    {u"CVZLKF", u"Zelkoﾌｧｲﾙへの変換", u"*.*", u"読み込み(CR)", u"ﾌｧｲﾙ", kChoose, false},
+    {u"SVCread", u"Zelkoﾌｧｲﾙ指定", u"*.csv", u"読み込み(CR)", u"CSVﾌｧｲﾙ", kChoose, false},
+};
+
+// Bytes of a name that are no text, and line ends and the like, which a file name may hold.
+bool isNoCharacter(char16_t ch) { return ch < u' ' || ch == 0x7F || (ch >= 0xDC80 && ch <= 0xDCFF); }
+
+bool isLead(char16_t ch) { return ch >= 0xD800 && ch < 0xDC00; }
+
+}  // namespace
+
+const TextView kNoFileHere = u"現在のﾌｫﾙﾀﾞには該当ﾌｧｲﾙはありませんﾌｫﾙﾀﾞを変更してください";
+const TextView kCsvHint =
+    u"●クリックすると項目区切り設定ウインドウが開かれます。CSV１行の項目数と､各項目の項目幅等を設定してください。\r\n"
+    u"●設定後読み込むCSVファイルを指定。\r\n"
+    u"●指定後、再度CSVファイルの読み込みボタンをクリックしてください。CSV1行項目数が設定項目数を超える場合、超過項目デ"
+    u"ータは読み込まれず、項目幅を超える文字列部分はカットされます。";
+const TextView kListHint =
+    u"●ﾌｧｲﾙを選んでｽﾍﾟｰｽｷｰを叩くと、項目名一覧が表示されます。\r\n"
+    u"●下のボタンで、Zelkoﾌｧｲﾙでないﾌｧｲﾙも表示し、Zelkoﾌｧｲﾙに変換して読み込めます。";
+
+const PickerJob& pickerJob(TextView mode) {
+  const auto found = std::ranges::find(kJobs, mode, &PickerJob::mode);
+  return found == std::end(kJobs) ? kJobs[0] : *found;
+}
+
+Text spokenName(TextView name) {
+  Text said(name);
+  for (std::size_t at = 0; at < said.size(); ++at) {
+    if (isNoCharacter(said[at]) && !(at > 0 && isLead(name[at - 1]))) said[at] = u'？';
+  }
+  return said;
+}
+
+Text tableOfItemFile(TextView itemFile) { return Text(itemFile.substr(std::min<std::size_t>(1, itemFile.size()))); }
+
+Text pathIn(TextView folder, TextView name) {
+  Text whole(folder);
+  if (!whole.ends_with(u'/')) whole += u'/';
+  return whole.append(name);
+}
+
+TextView boxWord(const Control* focused) {
+  if (!focused) return u"";
+  switch (focused->kind()) {
+    case ControlKind::driveBox:
+      return u"ﾄﾞﾗｲﾌﾞﾎﾞｯｸｽ";
+    case ControlKind::folderBox:
+      return u"ﾌｫﾙﾀﾞﾎﾞｯｸｽ";
+    case ControlKind::fileBox:
+    case ControlKind::listBox:
+      return u"ﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽ";
+    default:
+      return u"";
+  }
+}
+
+Text openingSentence(const PickerJob& job, bool listIsEmpty) {
+  Text sentence = Text(job.caption) + u"フォームが開かれました。" + Text(job.prompt);
+  if (listIsEmpty) sentence += kNoFileHere;
+  return sentence;
+}
+
+Text folderReport(TextView folder, const std::vector<Text>& names, TextView box) {
+  Text report = spokenName(folder) + u"にﾌｫﾙﾀﾞが変更されました";
+  if (names.empty()) return report + u"ﾌｫﾙﾀﾞには該当と思われるﾌｧｲﾙはありません " + Text(box);
+  for (std::size_t at = 0; at < std::min(names.size(), kNamesInReport); ++at) {
+    if (at > 0) report += u"､";
+    report += names[at];
+  }
+  return report + u"等があります " + Text(box);
+}
+
+Text fileReport(TextView selected, TextView whereTheFocusIs) {
+  const Text name = selected.empty() ? Text(u"ｶﾞｲﾄｳ ﾌｧｲﾙなし｡") : spokenName(selected);
+  return u"。ファイルリストボックスでは、" + name + Text(whereTheFocusIs);
+}
+
+Text pickerHelp(const PickerJob& job) {
+  Text help = u"フォームが開かれました。" + Text(job.prompt);
+  help +=
+      u"ﾀﾌﾞｷｰで、ﾄﾞﾗｲﾌﾞﾎﾞｯｸｽ、ﾌｫﾙﾀﾞﾎﾞｯｸｽ、ﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽ、ボタンの順に移動します。"
+      u"ﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽで、矢印ｷｰでﾌｧｲﾙを選択し、CRｷｰを叩くと";
+  help += job.mode == u"delfile" ? u"、確認ののち、ﾌｧｲﾙが削除されます。" : u"、ﾌｧｲﾙが読み込まれます。";
+  if (job.tables) help += u"スペースで選択されているﾌｧｲﾙの項目内容が表示されます。";
+  return help + u"中止はｴｽｹｰﾌﾟｷｰです。";
+}
+
+TextView toggleReport(bool showsAllFiles) {
+  if (showsAllFiles) return u"。Zelkoﾌｧｲﾙだけの表示に戻します。";
+  return u"。Zelkoﾌｧｲﾙでないﾌｧｲﾙも表示し、Zelkoﾌｧｲﾙに変換して読み込みます。";
+}
+
+}  // namespace zelko

@@ -1,0 +1,53 @@
+// Records and cells of the open table, and the cache around the cursor.
+#pragma once
+
+#include <string_view>
+
+#include "store/table/table.h"
+
+namespace zelko {
+
+// File 1 divided by recLen, fractions dropped.
+std::int32_t recCount();
+
+// One record, as it stands on disk, into 256 bytes. False past the end or on a read failure (`out` is then blank).
+bool getRec(int file, std::int32_t record, CacheRow& out);
+// Writes the first 256 bytes of `bytes` (NUL behind a shorter string) at that record number. False when nothing was
+// stored: the user is told, but once only while the same bytes fail at the same record, and in silence while the
+// read-only mark stands.
+bool putRec(int file, std::int32_t record, std::string_view bytes);
+// From here on a failed write is told again, as after each loadCache: for the beginning of a key or command.
+void forgetToldFailure();
+
+// The cache row of the current record; a fault where the cache does not hold it.
+CacheRow& currentRow();
+std::string_view rowBytes(const CacheRow& row);      // its first 254 bytes
+void setRow(CacheRow& row, std::string_view bytes);  // cut to 254 or padded with blanks; CR LF behind
+
+// Stores the current row if it holds something (beyond the count: neither blank nor slashes); false when the store
+// failed. The cached row has CR LF behind its 254 bytes again.
+bool flushRec();
+// Reloads the cache centred on `record`, whole, from disk: flushRec must come first.
+void loadCache(std::int32_t record);
+// One record back, keeping the other rows.
+void cacheScrollUp();
+
+// The cell of `item`, cut by bytes, blanks included; the record is that of row 1, or any row. The line end of the
+// record counts as two blanks.
+Text cellOfCur(int item);
+Text cellOfRow(const CacheRow& row, int item);
+// Copies the row of `record` to row 1, where cellOfCur cuts; a record outside the cache is read from disk.
+void takeRow(std::int32_t record);
+// The cell read from disk through row 0.
+Text cellAt(std::int32_t record, int item);
+
+// `text` in Shift-JIS padded with blanks or cut to `width` bytes: "L" keeps its left end, "R" its right end.
+std::string paddedCell(TextView text, int width, TextView alignment);
+// Puts the padded cell into the row; only the bytes of that cell change, and behind the last item the row becomes
+// blank.
+void setCell(CacheRow& row, int item, TextView text);
+
+// itemStart from itemWidth.
+void computeItemStart();
+
+}  // namespace zelko

@@ -1,0 +1,45 @@
+// Walking a table: what a walk must not do, and the way through a small cache.
+#include <doctest/doctest.h>
+
+#include "editor/editor_fixture.h"
+#include "editor/main/state.h"
+#include "editor/moves/moves.h"
+#include "platform/text/number.h"
+#include "store/records/records.h"
+#include "store/table/cursor.h"
+
+using namespace zelko;
+using namespace zelko::test;
+
+namespace {
+
+const std::vector<ItemOfTable> kItems = {{u"ID", 4}, {u"氏名", 10}, {u"点", 3, u'R'}};
+const Rows kRecords = {{u"1", u"山田", u"80"}, {u"2", u"", u"7"}, {u"3", u"ｻﾄｳ", u""}};
+
+std::pair<int, int> cursor() { return {curRec, curItem}; }
+
+}  // namespace
+
+TEST_CASE_FIXTURE(EditorFixture, "while a range is chosen the moves store and show nothing") {
+  open(kItems, kRecords, 2);
+  mainForm().txtinputbox.setFocus();
+  play({"type x"});
+  mode = u"HTYU";
+  nextItem();
+  nextRec(curItem);
+  prevRec(curItem);
+  CHECK(cursor() == std::pair{1, 1});
+  CHECK(utf8(mainForm().txtREC.content()) == "1");
+  CHECK(utf8(mainForm().txtinputbox.content()) == "x");
+  reloadCur(1);
+  CHECK(mode.empty());
+  CHECK(utf8(mainForm().txtItemnum.content()) == "1");
+}
+
+TEST_CASE_FIXTURE(EditorFixture, "a long table scrolls both ways through a small cache") {
+  Rows many;
+  for (int i = 1; i <= 60; ++i) many.push_back({decimal(i)});
+  open({{u"ID", 4}}, many, 1);
+  for (int i = 2; i <= 60; ++i) CHECK(play({"Down"}) == Heard{"say " + std::to_string(i)});
+  for (int i = 59; i >= 1; --i) CHECK(play({"Up"}) == Heard{"say " + std::to_string(i)});
+}

@@ -1,0 +1,161 @@
+// Scripts, their transcripts and exit statuses.
+#include <doctest/doctest.h>
+
+#include "fixture.h"
+#include "platform/fault.h"
+#include "platform/forms/sampleform.h"
+#include "platform/headless/replay.h"
+
+using namespace zelko;
+
+namespace {
+
+struct Played {
+  int status;
+  std::string transcript, complaints;
+};
+
+// A program of one form: F2 ends it, F3 faults, F4 opens a dialog, F5 counts three ticks of a timer, F6 waits.
+class Program : public SampleForm {
+ public:
+  static constexpr TextView kName = u"Form1";
+  Program() : SampleForm(kName) {
+    onActivate = nullptr;
+    for (Control* control : controls()) control->onGotFocus = control->onLostFocus = nullptr;
+    timer.onTimer = [this] { tick(); };
+    onKeyDown = [this](KeyEvent& key) { command(key.code); };
+  }
+  Timer timer{*this, u"Timer1"};
+
+ private:
+  void tick() {
+    tell(u"tick " + shortTime(host().now()));
+    if (++ticks_ == 3) timer.setInterval(0);
+  }
+  void command(int code) {
+    if (code == key::function(2)) throw ProgramEnd{};
+    if (code == key::function(3)) throw Fault{u"overflow"};
+    if (code == key::function(4)) form<SampleDialog>().showModal();
+    if (code == key::function(5)) timer.setInterval(700);
+    if (code == key::function(6)) host().waitSeconds(2);
+    if (code == key::function(7)) throw std::runtime_error("broken");
+  }
+  int ticks_ = 0;
+};
+
+Played replay(const std::string& script) {
+  Fixture files;  // for its folder
+  writeBytes(files.folder() / "script.txt", script);
+  Played played{};
+  ReplayOptions options;
+  options.script = (files.folder() / "script.txt").string();
+  options.transcript = [&](std::string_view line) { played.transcript.append(line).append("\n"); };
+  options.complaints = [&](std::string_view line) { played.complaints.append(line).append("\n"); };
+  played.status = runReplay(options, [] { form<Program>().show(); });
+  setHost(&files.host());
+  return played;
+}
+
+}  // namespace
+
+TEST_CASE("exit statuses and what is told on the way") {
+  struct Row {
+    const char* script;
+    int status;
+    const char* transcript;  // behind "+ Form1 Sample"
+    const char* complaint;
+  };
+  const Row rows[] = {
+      {"", 0, "", ""},
+      {"\xEF\xBB\xBF# a comment\r\n\r\n  key A\r\n", 0, "say text a\n", ""},
+      {"type  a\\\\\\nb", 0, "say text  \nsay text  a\nsay text  a\\\nsay ok\nsay text  a\\b\n", ""},
+      {"commit 東京\nexpect 京\nexpect 京", 1, "say text 東京\nFAILED expect 京\n", ""},
+      {"expect x\ntype x\nexpect text x", 1, "FAILED expect x\nsay text x\n", ""},
+      {"key F2\nkey A", 0, "end\n", ""},
+      {"expect x\nkey F2", 1, "FAILED expect x\nend\n", ""},
+      {"key F3\nkey A", 3, "fault overflow\n", ""},
+      {"key F7", 3, "fault broken\n", ""},
+      {"key F4\nkey Enter", 0, "+ frmDialog Sample\nsay active frmDialog\nsay in box\nsay ok\n", ""},
+      {"key F4\nkey Esc\nkey F2", 0, "+ frmDialog Sample\nsay active frmDialog\nsay in box\n- frmDialog\nend\n", ""},
+      {"menu mnuSAVE\nmenu mnuNONE", 0, "say saved\nbeep\n", ""},
+      {"click Form1.Option1(1)\ndblclick Form1.Option1(0)", 0, "say second\nsay first\n", ""},
+      {"key A\nfocus Form1.check\ncommit b", 2, "say text a\n", "line 3: no text box has the focus\n"},
+      {"menu mnuOTHER", 2, "", "line 1: no form that is open has a menu entry mnuOTHER\n"},
+      {"click Form9.box", 2, "", "line 1: the form Form9 is not open\n"},
+      {"click Form1.Option1", 2, "", "line 1: Form1 has no control Option1\n"},
+  };
+  for (const Row& row : rows) {
+    CAPTURE(row.script);
+    Played played = replay(row.script);
+    CHECK(played.status == row.status);
+    CHECK(played.transcript == std::string("+ Form1 Sample\n") + row.transcript);
+    CHECK(played.complaints == row.complaint);
+  }
+}
+
+TEST_CASE("a script is understood whole before anything runs") {
+  for (const char* line : {"press A",
+                           "key",
+                           "key a",
+                           "key Ctrl+",
+                           "type",
+                           "commit ",
+                           "menu",
+                           "menu a b",
+                           "click box",
+                           "click Form1.",
+                           "click Form1.Option1(x)",
+                           "wait",
+                           "wait -1",
+                           "wait 1e3",
+                           "wait 1.",
+                           "step x",
+                           "clock 2026-02-30 10:00:00",
+                           "clock 2026-01-05",
+                           "clock 2026-01-05 24:00:00",
+                           "seed -1",
+                           "seed 4294967296",
+                           "later 0 key A",
+                           "later 2 type x",
+                           "later 2",
+                           "show",
+                           "show menu ",
+                           "expect",
+                           "type \xFF"}) {
+    CAPTURE(line);
+    Played played = replay(std::string("key A\n\n") + line + "\nkey B\n");
+    CHECK(played.status == 2);
+    CHECK(played.transcript == "");
+    CHECK(played.complaints.starts_with("line 3: "));
+  }
+  ReplayOptions options;
+  options.script = "no such script";
+  options.complaints = [](std::string_view) {};
+  CHECK(runReplay(options, [] {}) == 2);
+}
+
+TEST_CASE("the virtual clock: timers fire as they fall due, never inside a wait") {
+  CHECK(replay("key F5\nwait 2\nwait 9").transcript ==
+        "+ Form1 Sample\nsay tick 10:00:01\nsay tick 10:00:02\nsay tick 10:00:03\n");
+  CHECK(replay("step 0\nkey F5\nkey F6\nshow focus").transcript ==
+        "+ Form1 Sample\nsay tick 10:00:02\nfocus Form1.box\n");
+  // A wait ends past its time even where single precision can't tell a millisecond from none.
+  for (const char* clock : {"0:00:00", "10:00:00", "18:30:07", "23:59:50"}) {
+    CAPTURE(clock);
+    Fixture f;
+    f.play(std::string("clock 2026-01-05 ") + (clock[1] == ':' ? "0" : "") + clock);
+    for (double seconds : {0.1, 0.2, 1.8, 2.5}) {
+      double before = f.host().dayTimer();
+      f.host().waitSeconds(seconds);
+      CHECK(f.host().dayTimer() - before > seconds);
+      CHECK(f.host().dayTimer() - before < seconds + 0.02);
+    }
+  }
+}
+
+TEST_CASE("midnight, the month and the leap day") {
+  Fixture f;
+  f.play("clock 2028-02-28 23:59:59\nwait 1.5");
+  CHECK(f.host().now() == DateTime{2028, 2, 29, 0, 0, 0});
+  CHECK(f.host().dayTimer() == 0.5F);
+}

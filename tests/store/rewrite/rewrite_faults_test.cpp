@@ -1,0 +1,191 @@
+// Rewrites on a machine that fails: killed at any moment, refused at any call, a full disk, something in the way.
+#include <doctest/doctest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <filesystem>
+
+#include "platform/files/files.h"
+#include "store/rewrite/file_calls.h"
+#include "store/rewrite/recovery.h"
+#include "store/rewrite/rewrite.h"
+#include "store/rewrite/rewrite_model.h"
+#include "store/store_fixture.h"
+
+using namespace zelko;
+using namespace zelko::test;
+
+namespace {
+
+const Operation kOperations[] = {
+    {What::insert, 0, 0, 1, 2}, {What::erase, 0, 3},        {What::move, 2, 2, 0},     {What::insertItems, 0, 0, 1, 2},
+    {What::eraseItems, 1, 1},   {What::moveItems, 2, 2, 0}, {What::width, 1, 0, 0, 3}, {What::align, 2},
+};
+
+// The two files of a table as they stand.
+struct Files {
+  std::string data, items;
+  bool operator==(const Files&) const = default;
+};
+
+Files filesOf(const StoreFixture& store) { return {store.bytes("t.txt"), store.bytes("Kt.txt")}; }
+
+Files startFiles() { return {sampleTable(4, 3).bytes(), itemFileText({3, 4, 5}, {1})}; }
+
+void restart(const StoreFixture& store) {
+  closeAll();
+  for (const std::string& file : store.files()) std::filesystem::remove_all(store.path(file));
+  store.write("t.txt", startFiles().data);
+  store.write("Kt.txt", startFiles().items);
+  REQUIRE(store.open("t.txt"));
+  (void)store.dialogs();
+}
+
+RewriteEnd run(const Operation& op) {
+  const Task task = taskOf(op, itemsOnDisk(), recCount());
+  return rewriteTable(task.plan, task.itemsChange ? &task.items : nullptr, [](std::int64_t) { return true; });
+}
+
+Files rewritten(const StoreFixture& store, const Operation& op) {
+  restart(store);
+  REQUIRE(run(op) == RewriteEnd::done);
+  return filesOf(store);
+}
+
+// True where the process was killed in front of that call, false where it had no such call left.
+bool killedAt(int call, const Operation& op) {
+  const pid_t child = fork();
+  REQUIRE(child >= 0);
+  if (child == 0) {
+    dieAtCall(call);
+    run(op);
+    _exit(0);
+  }
+  int status = 0;
+  REQUIRE(waitpid(child, &status, 0) == child);
+  REQUIRE(WIFEXITED(status));
+  return WEXITSTATUS(status) == kKilled;
+}
+
+}  // namespace
+
+TEST_CASE("killed in front of any call: the old table, the new one, or an offer that brings the new one") {
+  StoreFixture store;
+  for (const Operation& op : kOperations) {
+    CAPTURE(static_cast<int>(op.what));
+    const Files after = rewritten(store, op), before = startFiles();
+    int offers = 0, call = 1;
+    for (;; ++call) {
+      restart(store);
+      closeAll();
+      REQUIRE(store.open("t.txt"));
+      const bool killed = killedAt(call, op);
+      closeAll();
+      if (!killed) break;
+      CAPTURE(call);
+      const Files left = filesOf(store);
+      // Who says no keeps everything, and is asked again.
+      store.answerQuestions(false);
+      const bool opened = store.open("t.txt");
+      const std::size_t asked = store.dialogs().size();
+      CHECK(filesOf(store) == left);
+      store.answerQuestions(true);
+      REQUIRE(store.open("t.txt"));
+      CHECK(store.dialogs().size() == asked);
+      CHECK(opened == (asked == 0));
+      offers += static_cast<int>(asked);
+      const Files now = filesOf(store);
+      CHECK((now == after || (asked == 0 && now == before)));
+    }
+    CHECK(call > 5);
+    CHECK(offers >= 1);
+  }
+}
+
+TEST_CASE("any call that fails: the old table, the new one, or an offer; and the next rewrite works") {
+  StoreFixture store;
+  for (const Operation& op : kOperations) {
+    const Files after = rewritten(store, op), before = startFiles();
+    for (const int error : {EIO, ENOSPC, EACCES}) {
+      for (int call = 1;; ++call) {
+        restart(store);
+        failAtCall(call, error);
+        const RewriteEnd end = run(op);
+        const int calls = stopCounting();
+        if (calls < call) break;
+        CAPTURE(static_cast<int>(op.what));
+        CAPTURE(call);
+        CAPTURE(error);
+        if (end == RewriteEnd::failed) CHECK((filesOf(store) == before || interruptedSwap(besideTable(u""))));
+        closeAll();
+        (void)store.dialogs();
+        REQUIRE(store.open("t.txt"));
+        const bool offered = !store.dialogs().empty();
+        CHECK((filesOf(store) == after || (!offered && filesOf(store) == before)));
+        CHECK(run({What::insert, 0, 0, 0, 1}) == RewriteEnd::done);
+        const auto files = store.files();
+        CHECK(files == std::vector<std::string>{"Kt.txt", "t.txt"});
+      }
+    }
+  }
+}
+
+TEST_CASE("what stands in the way of a rewrite leaves the table as it was") {
+  StoreFixture store;
+  for (const char* inTheWay : {"WORK.QQQ", "KWORK.QQQ", "SWAP.QQQ"}) {
+    restart(store);
+    std::filesystem::create_directory(store.path(inTheWay));
+    CHECK(run({What::eraseItems, 1, 1}) == RewriteEnd::failed);
+    CHECK(filesOf(store) == startFiles());
+    CHECK(itemCount == 2);
+    CHECK(recCount() == 4);
+    CHECK(store.files() == std::vector<std::string>(inTheWay < std::string("Kt.txt")
+                                                        ? std::vector<std::string>{inTheWay, "Kt.txt", "t.txt"}
+                                                        : std::vector<std::string>{"Kt.txt", inTheWay, "t.txt"}));
+  }
+  restart(store);
+  setReadOnly(store.name("Kt.txt"), true);
+  CHECK(run({What::width, 0, 0, 0, 1}) == RewriteEnd::failed);
+  CHECK(run({What::move, 0, 0, 2}) == RewriteEnd::done);
+  restart(store);
+  {
+    const FullDisk full(700);
+    CHECK(run({What::insert, 0, 0, 0, 1}) == RewriteEnd::failed);
+  }
+  CHECK(filesOf(store) == startFiles());
+  CHECK(store.files() == std::vector<std::string>{"Kt.txt", "t.txt"});
+}
+
+TEST_CASE("an interrupted swap of another table is offered when its neighbour opens, and never overwritten") {
+  StoreFixture store;
+  const Files after = rewritten(store, {What::erase, 0, 0});
+  restart(store);
+  for (int call = 1; std::filesystem::exists(store.path("t.txt")); ++call) {
+    REQUIRE(killedAt(call, {What::erase, 0, 0}));
+    closeAll();
+    if (std::filesystem::exists(store.path("t.txt"))) restart(store);
+  }
+  store.table("u.txt", {4}, {"u"});
+  store.answerQuestions(false);
+  REQUIRE(store.open("u.txt"));
+  CHECK(store.dialogs().size() == 1);
+  REQUIRE(run({What::insert, 0, 0, 0, 1}) == RewriteEnd::done);
+  CHECK(filesOf(store) == after);
+  CHECK(store.bytes("u.txt") == record("") + record("u"));
+}
+
+TEST_CASE("a rewrite keeps the permissions of the files and the link that leads to one") {
+  StoreFixture store;
+  store.table("far.txt", {3, 4, 5}, {"one", "two"});
+  std::filesystem::create_directory(store.path("d"));
+  std::filesystem::rename(store.path("far.txt"), store.path("d/far.txt"));
+  std::filesystem::rename(store.path("Kfar.txt"), store.path("Kt.txt"));
+  std::filesystem::create_symlink("d/far.txt", store.path("t.txt"));
+  std::filesystem::permissions(store.path("d/far.txt"), std::filesystem::perms{0600});
+  REQUIRE(store.open("t.txt"));
+  REQUIRE(run({What::erase, 0, 0}) == RewriteEnd::done);
+  CHECK(std::filesystem::is_symlink(store.path("t.txt")));
+  CHECK(store.bytes("d/far.txt") == record("two"));
+  CHECK(std::filesystem::status(store.path("d/far.txt")).permissions() == std::filesystem::perms{0600});
+}
