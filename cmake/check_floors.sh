@@ -6,8 +6,8 @@ cd "$(dirname "$0")/../src"
 # The floor of a file by its place; voice/ stands on two floors, the sentences about cells above the store.
 floor_of() {
   case $1 in
-    platform/* | speech/*) echo 1 ;;
-    voice/cells*) echo 4 ;;
+    platform/* | speech/* | stats/numbers/*) echo 1 ;;
+    voice/cells* | parts/*) echo 4 ;;
     voice/*) echo 2 ;;
     store/*) echo 3 ;;
     editor/*) echo 5 ;;

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 #include "platform/forms/control.h"
 #include "platform/text/daytime.h"
@@ -73,6 +74,8 @@ class Host {
   virtual void runModal(Form& form) = 0;
   // Called once a record by long work; cheap. Only forms that are live during work get events.
   virtual void letEventsThrough() = 0;
+  // True where letEventsThrough would deliver something now: a walk writes its changed block first. Cheap.
+  virtual bool eventWaits() { return true; }
   // Input stands still, clipboard and speech are served.
   virtual void waitSeconds(double seconds) = 0;
   // Seconds since midnight, single precision.
@@ -81,11 +84,18 @@ class Host {
   // 32 random bits.
   virtual std::uint32_t randomBits() = 0;
   virtual void beep() = 0;
+  // A tone of that pitch; returns at once, tones that follow are played one behind the other.
+  virtual void tone(double /*hertz*/, int /*milliseconds*/) { beep(); }
+  // Hands a link ("tel:…") to the system; false where nothing takes it.
+  virtual bool openLink(TextView /*link*/) { return false; }
   // Width of `text` on the screen, in twips; without a screen 120 for each half-width character.
   virtual int textTwips(TextView text);
 
   // The clipboard. False where it could not be read or set; nothing has changed then.
   virtual bool clipboardText(Text& out) = 0;
+  // What another program put there, while it is still there: read once when it came, apart, so that this never waits.
+  // nullopt while the clipboard is ours, empty, or its owner does not answer.
+  virtual std::optional<Text> othersClipboard() { return std::nullopt; }
   virtual bool clearClipboard() = 0;
   // A sentence for the reader.
   virtual bool sayOnClipboard(TextView sentence) = 0;
