@@ -10,12 +10,27 @@
 #include "editor/ranges/range.h"
 #include "editor/rewrites/rewrites.h"
 #include "editor/show/itemlist.h"
+#include "editor/show/showcell.h"
 #include "editor/show/spitem.h"
 #include "editor/show/view.h"
+#include "parts/cells.h"
+#include "store/table/mainform.h"
+#include "voice/cellhooks.h"
 
 namespace zelko {
 
+namespace {
+
+// What the lower floors ask of the editor.
+void registerHooks() {
+  mainFormHooks = {showTitle, showMark};
+  cellHooks = {talkCell, talkRange, showItemList};
+}
+
+}  // namespace
+
 void registerEditor() {
+  registerHooks();
   registerEditorForms();
   registerCellCommands();
   registerClip();

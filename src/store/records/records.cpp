@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "editor/show/showcell.h"
 #include "platform/fault.h"
 #include "platform/files/files.h"
 #include "store/table/cursor.h"
@@ -99,7 +100,7 @@ bool flushRec() {
   row[kDataBytes] = '\r';
   row[kDataBytes + 1] = '\n';
   const bool stored = putRec(kDataFile, curRec, {row.data(), row.size()});
-  if (curRec >= recCount()) showTitle();
+  if (curRec >= recCount()) mainFormHooks.showTitle();
   return stored;
 }
 

@@ -1,7 +1,8 @@
-#include "voice/cells.h"
+#include "parts/cells.h"
 
 #include <algorithm>
 
+#include "editor/main/inputbox.h"
 #include "platform/text/number.h"
 #include "platform/text/sjis.h"
 #include "store/records/records.h"
