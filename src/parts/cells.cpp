@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "editor/main/inputbox.h"
 #include "platform/text/number.h"
 #include "platform/text/sjis.h"
 #include "store/records/records.h"

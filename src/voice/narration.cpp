@@ -1,6 +1,5 @@
 #include "voice/narration.h"
 
-#include "parts/cells.h"
 #include "platform/host.h"
 #include "voice/cellhooks.h"
 #include "voice/names.h"

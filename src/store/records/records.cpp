@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <limits>
 
-#include "editor/show/showcell.h"
 #include "platform/fault.h"
 #include "platform/files/files.h"
 #include "store/table/cursor.h"
