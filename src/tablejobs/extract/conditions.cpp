@@ -3,7 +3,7 @@
 #include "editor/formulas/formula.h"
 #include "platform/fault.h"
 #include "platform/text/number.h"
-#include "platform/text/sjis.h"
+#include "store/records/walk.h"
 #include "store/table/cursor.h"
 
 namespace zelko {
@@ -23,31 +23,30 @@ double computed(TextView formula) {
 
 }  // namespace
 
-ConditionTest::ConditionTest(const std::vector<ConditionRow>& rows, ConditionLogic logic, const RecordShape& shape)
-    : logic_(logic) {
-  for (const ConditionRow& row : rows) rows_.push_back(compiled(row, shape));
+ConditionTest::ConditionTest(const std::vector<ConditionRow>& rows, ConditionLogic logic) : logic_(logic) {
+  for (const ConditionRow& row : rows) rows_.push_back(compiled(row));
 }
 
-ConditionTest::Row ConditionTest::compiled(const ConditionRow& row, const RecordShape& shape) const {
+ConditionTest::Row ConditionTest::compiled(const ConditionRow& row) const {
   Row out;
   out.number = row.type == u"N";
-  out.cell = shape.at(toInt16(val(row.item)));
+  out.item = toInt16(val(row.item));
   out.relation = relationOf(row.relation);
   out.value = out.number || logic_.caseCounts ? trimmed(row.value) : upperCase(trimmed(row.value));
   if (!out.number) return out;
   if (!contains(out.value, u"@")) out.constant = computed(out.value);
   const bool alone =
       out.value.size() > 1 && out.value[0] == u'@' && out.value.find_first_not_of(kDigits, 1) == Text::npos;
-  if (alone) out.itemAlone = shape.at(toInt16(val(out.value.substr(1))));
+  if (alone) out.itemAlone = toInt16(val(out.value.substr(1)));
   return out;
 }
 
-double ConditionTest::valueOf(const Row& row, const RecordInHand& record) const {
+double ConditionTest::valueOf(const Row& row, const WalkedRecord& record) const {
   if (row.constant) return *row.constant;
-  if (row.itemAlone) return asPrinted(val(fromSjis(cellBytes(record.bytes, *row.itemAlone))));
+  if (row.itemAlone) return asPrinted(val(record.cell(*row.itemAlone)));
   // The formula looks at the record of the cursor.
   const std::int32_t cursor = curRec;
-  curRec = record.number;
+  curRec = record.number();
   try {
     const double value = computed(row.value);
     curRec = cursor;
@@ -58,14 +57,14 @@ double ConditionTest::valueOf(const Row& row, const RecordInHand& record) const 
   }
 }
 
-bool ConditionTest::holds(const Row& row, const RecordInHand& record) const {
-  const Text cell = fromSjis(cellBytes(record.bytes, row.cell));
+bool ConditionTest::holds(const Row& row, const WalkedRecord& record) const {
+  const Text cell = record.cell(row.item);
   if (row.number) return numberHolds(val(cell), row.relation, valueOf(row, record));
   const Text text = trimmed(cell);
   return textHolds(logic_.caseCounts ? text : upperCase(text), row.relation, row.value);
 }
 
-bool ConditionTest::passes(const RecordInHand& record) {
+bool ConditionTest::passes(const WalkedRecord& record) {
   failedRow_ = 0;
   for (const Row& row : rows_) {
     ++failedRow_;

@@ -6,10 +6,11 @@
 #include <vector>
 
 #include "platform/text/text.h"
-#include "store/records/recordshape.h"
 #include "tablejobs/extract/comparecell.h"
 
 namespace zelko {
+
+class WalkedRecord;
 
 // A row as it stands in the table.
 struct ConditionRow {
@@ -29,34 +30,28 @@ struct ConditionLogic {
 // use left out. The message of the first fault, with the number of its row; empty where there is none.
 Text checkConditions(std::vector<ConditionRow>& rows, bool caseCounts);
 
-// A record as a walk shows it.
-struct RecordInHand {
-  std::int32_t number = 0;
-  std::string_view bytes;
-};
-
 class ConditionTest {
  public:
-  // The rows have passed the check; the cells are those of the shape.
-  ConditionTest(const std::vector<ConditionRow>& rows, ConditionLogic logic, const RecordShape& shape);
+  // The rows have passed the check.
+  ConditionTest(const std::vector<ConditionRow>& rows, ConditionLogic logic);
 
   // The rows in their order, up to the first that does not pass. The numbers of items in a value are those of the
   // record. A number that can't be computed throws a Fault; failedRow() tells which condition it was.
-  bool passes(const RecordInHand& record);
+  bool passes(const WalkedRecord& record);
   int failedRow() const { return failedRow_; }
 
  private:
   struct Row {
     bool number = false;
-    CellPlace cell;
+    int item = 0;
     Relation relation = Relation::unknown;
-    Text value;                          // of a text; a formula otherwise
-    std::optional<double> constant;      // of a formula without items
-    std::optional<CellPlace> itemAlone;  // of a formula that is the number in one item
+    Text value;                      // of a text; a formula otherwise
+    std::optional<double> constant;  // of a formula without items
+    std::optional<int> itemAlone;    // of a formula that is the number in one item
   };
-  Row compiled(const ConditionRow& row, const RecordShape& shape) const;
-  bool holds(const Row& row, const RecordInHand& record) const;
-  double valueOf(const Row& row, const RecordInHand& record) const;
+  Row compiled(const ConditionRow& row) const;
+  bool holds(const Row& row, const WalkedRecord& record) const;
+  double valueOf(const Row& row, const WalkedRecord& record) const;
 
   ConditionLogic logic_;
   std::vector<Row> rows_;
