@@ -6,6 +6,8 @@
 #include "files/picker/picker.h"
 #include "files/start/help.h"
 #include "files/start/startscreen.h"
+#include "tablejobs/extract/form7.h"
+#include "tablejobs/search/search.h"
 #include "voice/dialogs.h"
 #include "voice/narration.h"
 
@@ -19,6 +21,8 @@ void wireProgram() {
   registerHelp();
   registerTableDesign();
   registerOutputFiles();
+  registerSearch();
+  registerExtraction();
   narrateMenus();
 }
 

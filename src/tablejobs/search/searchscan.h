@@ -9,7 +9,6 @@
 namespace zelko {
 
 class Matcher;
-class Progress;
 
 struct CellAt {
   std::int32_t record = 1;
@@ -37,12 +36,13 @@ enum class ScanEnd {
 
 struct Scan {
   ScanEnd end = ScanEnd::cameRound;
-  CellAt at;  // the cell of the hit, or the last one that was looked at
+  CellAt at;  // of a hit, or the start of the round
 };
 
-// From that cell to the start of the round, which comes last. `onRecord` is called before each record with its first
-// cell; false stops.
-Scan scanCells(const Matcher& matcher, const SearchWay& way, CellAt from, CellAt start,
+// From that cell to the start of the round, which comes last. `onRecord` is called before each record, with the cell
+// that is looked at last where nothing hits; false stops. A dialog of `work` opens where it takes a second; without it
+// none.
+Scan scanCells(const Matcher& matcher, const SearchWay& way, CellAt from, CellAt start, TextView work,
                const std::function<bool(CellAt)>& onRecord);
 
 struct HitCount {
