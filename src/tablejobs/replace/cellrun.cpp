@@ -5,6 +5,8 @@
 
 #include "editor/moves/moves.h"
 #include "editor/ranges/range.h"
+#include "parts/job/job.h"
+#include "platform/text/number.h"
 #include "platform/text/sjis.h"
 #include "store/records/records.h"
 #include "store/records/walk.h"
@@ -15,6 +17,8 @@
 namespace zelko {
 
 namespace {
+
+constexpr int kWholeRecords = 2, kWholeItems = 3;  // of rangeKind
 
 std::vector<int> itemsBetween(int first, int last) {
   std::vector<int> items(static_cast<std::size_t>(std::max(last - first + 1, 0)));
@@ -36,9 +40,9 @@ class CellRunner {
   CellRunResult go() {
     const CellScope& scope = run_.scope;
     Walk walk;
-    walk.first = std::min(scope.first, scope.last);
-    walk.last = std::max(scope.first, scope.last);
-    walk.towardsHead = scope.backward();
+    walk.first = scope.first;
+    walk.last = scope.last;
+    walk.towardsHead = scope.backward;
     walk.work = run_.work;
     const WalkEnd end = changeRecords(walk, [this](ChangedRecord& record) { return visit(record); });
     result_.stopped = result_.stopped || end == WalkEnd::stopped;
@@ -49,7 +53,7 @@ class CellRunner {
  private:
   bool visit(ChangedRecord& record) {
     const auto& items = run_.scope.items;
-    if (!run_.scope.backward()) return std::all_of(items.begin(), items.end(), [&](int i) { return cell(record, i); });
+    if (!run_.scope.backward) return std::all_of(items.begin(), items.end(), [&](int i) { return cell(record, i); });
     return std::all_of(items.rbegin(), items.rend(), [&](int i) { return cell(record, i); });
   }
 
@@ -93,18 +97,32 @@ std::vector<int> allItems() { return itemsBetween(0, itemCount); }
 
 std::vector<int> currentItemOnly() { return {curItem}; }
 
-CellScope scopeOf(std::int32_t first, std::int32_t last, std::vector<int> otherwise) {
-  CellScope scope{first, last, std::move(otherwise)};
+CellScope scopeOf(std::int32_t first, std::int32_t last, std::vector<int> items, bool backward) {
+  CellScope scope{first, last, std::move(items), backward};
   if (rangeKind == 0) return scope;
   const RangeBlock block = heldBlock();
-  if (rangeKind != 2) scope.items = itemsBetween(block.item1, block.item2);
-  const bool backward = scope.backward();
-  scope.first = rangeKind == 3 ? 1 : block.rec1;
-  scope.last = rangeKind == 3 ? recCount() : block.rec2;
-  if (backward) std::swap(scope.first, scope.last);
+  if (rangeKind != kWholeRecords) scope.items = itemsBetween(block.item1, block.item2);
+  scope.first = rangeKind == kWholeItems ? 1 : block.rec1;
+  scope.last = rangeKind == kWholeItems ? recCount() : block.rec2;
   return scope;
 }
 
 CellRunResult runOverCells(const CellRun& run) { return CellRunner(run).go(); }
+
+bool endCellRun(const CellRunResult& result) {
+  {
+    const Silence silence;
+    endJob(JobEnd::done, false, {});
+  }
+  if (!result.failed) return true;
+  JobCounts counts;
+  counts.done = result.changed;
+  talkBehindDialog(countsSentence(JobEnd::failed, counts));
+  return false;
+}
+
+void sayWhatWasCut(const CellRunResult& result) {
+  if (result.cut > 0) talkBehindDialog(decimal(result.cut) + u"件わ、項目幅に切りました。");
+}
 
 }  // namespace zelko

@@ -13,14 +13,14 @@ namespace zelko {
 
 // Which cells, in which order: the items of each record as they stand here.
 struct CellScope {
-  std::int32_t first = 1, last = 0;  // last below first: towards the head
+  std::int32_t first = 1, last = 0;  // backward: from `last` to `first`
   std::vector<int> items;
-  bool backward() const { return last < first; }
+  bool backward = false;
 };
 
-// A held range: its records (all of them for a range of items) and its items (those of `otherwise` for a range of
-// records). Without one `records` and `otherwise` as they are.
-CellScope scopeOf(std::int32_t first, std::int32_t last, std::vector<int> otherwise);
+// A held range: its records (all of them for a range of items), from its end where `backward`, and its items (`items`
+// for a range of records). Without one what is given.
+CellScope scopeOf(std::int32_t first, std::int32_t last, std::vector<int> items, bool backward = false);
 // Items 0 to the last, and the one of the cursor.
 std::vector<int> allItems();
 std::vector<int> currentItemOnly();
@@ -46,5 +46,10 @@ struct CellRunResult {
 // Runs it on the open table, whose row is stored. The cursor goes to each cell that is asked about; the caller loads the
 // cache behind it.
 CellRunResult runOverCells(const CellRun& run);
+// Behind it: the range is dropped, cache, title and view are those of the table as it is now, in silence. A failure is
+// told; false then.
+bool endCellRun(const CellRunResult& result);
+// What was cut, said behind the closing dialog of a run; nothing where all of it fitted.
+void sayWhatWasCut(const CellRunResult& result);
 
 }  // namespace zelko

@@ -98,9 +98,11 @@ void frmREPLACE::frmREPLACE_Command3_Click() {
                   u"テキストエラー");
   }
   if (!beginJob(true, true)) return;
+  CellRun run;
+  run.work = run.title = caption();
   const bool backward = Check6.value() == 1, asks = Check5.value() == 0;
-  CellRun run{.work = u"文字列の置換", .title = caption()};
-  run.scope = scopeOf(curRec, backward ? 1 : recCount(), Check1.value() == 1 ? allItems() : currentItemOnly(), backward);
+  const auto items = Check1.value() == 1 ? allItems() : currentItemOnly();
+  run.scope = backward ? scopeOf(1, curRec, items, true) : scopeOf(curRec, recCount(), items);
   run.change = [&](std::string_view cell) -> std::optional<std::string> {
     if (!isHit(wanted, trimmed(fromSjis(cell)))) return std::nullopt;
     return replacedBytes(wanted, cell);
@@ -114,10 +116,12 @@ void frmREPLACE::frmREPLACE_Command3_Click() {
 }
 
 void frmREPLACE::finish(const CellRunResult& result, bool asked) {
-  endCellRun(result);
-  if (result.failed) return;
+  const bool ended = endCellRun(result);
+  mode = u"srch";
+  if (!ended) return;
   const Text counted = decimal(result.changed) + u"件ありました。作業終了します。CRｷｰをたたいてください。";
   showOK(asked && !result.stopped ? Text(u"置換終了しました｡") : counted, u"置換終了");
+  sayWhatWasCut(result);
 }
 
 void frmREPLACE::frmREPLACE_Command1_Click() {
@@ -128,6 +132,15 @@ void frmREPLACE::frmREPLACE_Command1_Click() {
 void frmREPLACE::frmREPLACE_Command4_Click() {
   mode.clear();
   screen().unload(*this);
+}
+
+
+void registerReplaceForm() {
+  registerForm<frmREPLACE>();
+  registerCommand(u"mnuREPLACE", [] {
+    if (refusedAsReadOnly()) return;
+    form<frmREPLACE>().showModal();
+  });
 }
 
 }  // namespace zelko

@@ -3,6 +3,7 @@
 
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
+#include "tablejobs/replace/cellrun.h"
 #include "tablejobs/replace/replacing.h"
 
 namespace zelko {
@@ -35,12 +36,14 @@ class frmREPLACE : public Form {
   void frmREPLACE_Command1_Click();
   void frmREPLACE_Command3_Click();
   void frmREPLACE_Command4_Click();
+  void finish(const CellRunResult& result, bool asked);
 
   Text previousSearch_, previousWith_;
   std::int32_t savedRecord_ = 0;
   std::int16_t savedItem_ = 0;
 };
 
-void registerReplacement();
+// The form and mnuREPLACE.
+void registerReplaceForm();
 
 }  // namespace zelko
