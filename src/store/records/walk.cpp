@@ -130,6 +130,11 @@ void ChangedRecord::setCell(int item, TextView text) {
   putCell(bytes_, shape_.at(item), text);
 }
 
+void ChangedRecord::setCellBytes(int item, std::string_view bytes) {
+  walker_.touch();
+  putCellBytes(bytes_, shape_.at(item), bytes);
+}
+
 void ChangedRecord::setData(std::string_view data) {
   walker_.touch();
   const std::size_t length = std::min<std::size_t>(data.size(), kDataBytes);

@@ -38,13 +38,13 @@ struct CellRun {
 
 struct CellRunResult {
   std::int64_t changed = 0;
-  std::int64_t cut = 0;   // of these, did not fit their item whole
-  bool stopped = false;   // by the user, at a question or between two records
-  bool failed = false;    // a record could not be read or written, which was told
+  std::int64_t cut = 0;  // of these, did not fit their item whole
+  bool stopped = false;  // by the user, at a question or between two records
+  bool failed = false;   // a record could not be read or written, which was told
 };
 
-// Runs it on the open table, whose row is stored. The cursor goes to each cell that is asked about; the caller loads the
-// cache behind it.
+// Runs it on the open table, whose row is stored. The cursor goes to each cell that is asked about; the caller loads
+// the cache behind it.
 CellRunResult runOverCells(const CellRun& run);
 // Behind it: the range is dropped, cache, title and view are those of the table as it is now, in silence. A failure is
 // told; false then.

@@ -3,6 +3,7 @@
 #include "editor/main/commands.h"
 #include "files/picker/filenumber.h"
 #include "parts/job/job.h"
+#include "platform/files/blockfiles.h"
 #include "platform/files/ownedfile.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
@@ -41,6 +42,8 @@ CodesRead readCodes(const FileItem& chosen, CodeTable& codes) {
   });
   return end == WalkEnd::done ? CodesRead::whole : end == WalkEnd::stopped ? CodesRead::stopped : CodesRead::failed;
 }
+
+bool isOpenTable(TextView dataFile) { return behindLinks(dataFile) == behindLinks(joinName(docDrive, docPath)); }
 
 // False, told, where there is nothing to replace with.
 bool haveCodes(const FileItem& chosen, CodeTable& codes) {

@@ -11,9 +11,7 @@ struct Conversions {
   bool lowerCase = false, upperCase = false;
   bool fullWidth = false, halfWidth = false;  // letters, digits and signs
   bool fullKana = false, halfKana = false;
-  bool any() const {
-    return removeBlanks || lowerCase || upperCase || fullWidth || halfWidth || fullKana || halfKana;
-  }
+  bool any() const { return removeBlanks || lowerCase || upperCase || fullWidth || halfWidth || fullKana || halfKana; }
 };
 
 Text converted(const Conversions& wanted, TextView cell);

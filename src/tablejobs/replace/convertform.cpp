@@ -2,11 +2,12 @@
 
 #include "editor/main/commands.h"
 #include "parts/job/job.h"
+#include "parts/keys/enterkey.h"
 #include "platform/text/number.h"
 #include "platform/text/sjis.h"
 #include "store/records/records.h"
 #include "store/table/cursor.h"
-#include "store/table/itemfile.h"
+#include "store/table/readonly.h"
 #include "voice/dialogs.h"
 #include "voice/narration.h"
 #include "voice/talk.h"
@@ -29,9 +30,9 @@ Text questionFor(std::int32_t record, int item, const Text& old, const Text& bec
 }  // namespace
 
 frmEOCR::frmEOCR() : Form(kName, u"英数ｶﾅ部変換とﾃﾞｰﾀ中の空白部の削除") {
-  for (Control* control : {static_cast<Control*>(&Check3), static_cast<Control*>(&Check5),
-                           static_cast<Control*>(&Check7), static_cast<Control*>(&Check1),
-                           static_cast<Control*>(&Command1)})
+  for (Control* control :
+       {static_cast<Control*>(&Check3), static_cast<Control*>(&Check5), static_cast<Control*>(&Check7),
+        static_cast<Control*>(&Check1), static_cast<Control*>(&Command1)})
     control->place = Place::newRow;
   wire();
   narrate();
@@ -87,7 +88,7 @@ void frmEOCR::frmEOCR_Command1_Click() {
   const CellRunResult result = runOverCells(run);
   if (!endCellRun(result)) return;
   showOK(u"編集終わりました", u"編集終わり確認");
-  sayWhatCame(result);
+  sayWhatWasCut(result);
 }
 
 void registerConvertForm() {

@@ -10,7 +10,7 @@
 #include "platform/text/sjis.h"
 #include "store/records/records.h"
 #include "store/table/cursor.h"
-#include "store/table/itemfile.h"
+#include "store/table/readonly.h"
 #include "tablejobs/replace/cellrun.h"
 #include "voice/dialogs.h"
 #include "voice/names.h"
@@ -23,14 +23,14 @@ namespace {
 
 constexpr TextView kInvalid = u"invalid!!";
 
-constexpr TextView kNumberFormats[] = {u"#####.##", u"##,##0.00",  u"00000.00", u"Currency", u"Fixed", u"Percent",
-                                       u"Scientific", u"Standard", u"On/Off",  u"True/False", u"Yes/No"};
-constexpr TextView kTextFormats[] = {u"& &",     u"&  &", u"&   &", u"&    &",            u"&     &",
-                                     u"&      &", u"<",    u">",     u"@ @ @ @ @ @ @ @ @", u"@@ @@ @@ @@"};
-constexpr TextView kDateFormats[] = {u"General Date", u"Long Date",  u"Long Time",       u"Medium Date",
-                                     u"Medium Time",  u"Short Date", u"Short Time",      u"d-mmm",
+constexpr TextView kNumberFormats[] = {u"#####.##",   u"##,##0.00", u"00000.00", u"Currency",   u"Fixed", u"Percent",
+                                       u"Scientific", u"Standard",  u"On/Off",   u"True/False", u"Yes/No"};
+constexpr TextView kTextFormats[] = {
+    u"& &", u"&  &", u"&   &", u"&    &", u"&     &", u"&      &", u"<", u">", u"@ @ @ @ @ @ @ @ @", u"@@ @@ @@ @@"};
+constexpr TextView kDateFormats[] = {u"General Date", u"Long Date",           u"Long Time",  u"Medium Date",
+                                     u"Medium Time",  u"Short Date",          u"Short Time", u"d-mmm",
                                      u"d-mmmm h:mm",  u"dddd, mmmm dd, yyyy", u"g ee/mm/dd", u"ggg e年m月d日 aaaa",
-                                     u"h:mm:ss a/p",  u"hh:mm AM/P", u"m/d/yy",          u"mmmm-yy",
+                                     u"h:mm:ss a/p",  u"hh:mm AM/P",          u"m/d/yy",     u"mmmm-yy",
                                      u"yy/mm/dd"};
 
 std::span<const TextView> formatsOf(FormatKind kind) {
@@ -57,9 +57,9 @@ frmFMT::frmFMT() : Form(kName, u"データフォーマットの取得") {
   Text2.labelledBy = &Label3;
   Combo1.screenName = u"書式の一覧";
   Text2.readOnly = true;
-  for (Control* control : {static_cast<Control*>(&Label2), static_cast<Control*>(&Label3),
-                           static_cast<Control*>(&Option1), static_cast<Control*>(&Combo1),
-                           static_cast<Control*>(&Command1)})
+  for (Control* control :
+       {static_cast<Control*>(&Label2), static_cast<Control*>(&Label3), static_cast<Control*>(&Option1),
+        static_cast<Control*>(&Combo1), static_cast<Control*>(&Command1)})
     control->place = Place::newRow;
   Option1.setValue(1);
   frmFMT_Option_Click();

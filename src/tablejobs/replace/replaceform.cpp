@@ -3,11 +3,12 @@
 #include "editor/main/commands.h"
 #include "editor/moves/moves.h"
 #include "parts/job/job.h"
-#include "platform/host.h"
+#include "parts/keys/enterkey.h"
 #include "platform/text/number.h"
 #include "platform/text/sjis.h"
 #include "store/records/records.h"
 #include "store/table/cursor.h"
+#include "store/table/readonly.h"
 #include "tablejobs/replace/cellrun.h"
 #include "voice/dialogs.h"
 #include "voice/names.h"
@@ -28,24 +29,15 @@ Text questionFor(std::int32_t record, int item, const Text& old) {
   return u"見つかりました!記録" + decimal(record) + u"。項目" + decimal(item) + u" " + old + u"。置換しますか?";
 }
 
-// Enter in a box of one line, and on a check box.
-void onEnter(Control& control, std::function<void()> action) {
-  control.onKeyDown = [action](KeyEvent& key) {
-    if (!key.is(key::Enter, shift::None)) return;
-    key.swallow();
-    action();
-  };
-}
-
 }  // namespace
 
 frmREPLACE::frmREPLACE() : Form(kName, u"文字列の置換"), savedRecord_(curRec), savedItem_(curItem) {
   mode = u"srch";
   RichTextBox1.labelledBy = &Label1;
   RichTextBox2.labelledBy = &Label2;
-  for (Control* control : {static_cast<Control*>(&Label2), static_cast<Control*>(&Command3),
-                           static_cast<Control*>(&Check1), static_cast<Control*>(&Check3),
-                           static_cast<Control*>(&Check5), static_cast<Control*>(&Command1)})
+  for (Control* control :
+       {static_cast<Control*>(&Label2), static_cast<Control*>(&Command3), static_cast<Control*>(&Check1),
+        static_cast<Control*>(&Check3), static_cast<Control*>(&Check5), static_cast<Control*>(&Command1)})
     control->place = Place::newRow;
   wire();
   narrate();
@@ -55,8 +47,7 @@ void frmREPLACE::wire() {
   RichTextBox1.onChange = [this] { talkRichChange(RichTextBox1, previousSearch_); };
   RichTextBox2.onChange = [this] { talkRichChange(RichTextBox2, previousWith_); };
   for (TextBox* box : {&RichTextBox1, &RichTextBox2}) onEnter(*box, [this] { frmREPLACE_Command3_Click(); });
-  for (CheckBox* check : {&Check1, &Check2, &Check3, &Check4, &Check5, &Check6})
-    onEnter(*check, [check] { check->setValue(1 - check->value()); });
+  for (CheckBox* check : {&Check1, &Check2, &Check3, &Check4, &Check5, &Check6}) toggleOnEnter(*check);
   Command3.onClick = [this] { frmREPLACE_Command3_Click(); };
   Command1.onClick = [this] { frmREPLACE_Command1_Click(); };
   Command4.onClick = [this] { frmREPLACE_Command4_Click(); };
@@ -93,9 +84,9 @@ Text frmREPLACE::scopeWords() const {
 void frmREPLACE::frmREPLACE_Command3_Click() {
   const ReplaceRule wanted = rule();
   if (wanted.changesNothing()) {
-    return showOK((wanted.caseCounts ? Text() : Text(u"大小文字を区別しないなら、")) +
-                      u"検索文字列と置換文字列が同じです",
-                  u"テキストエラー");
+    return showOK(
+        (wanted.caseCounts ? Text() : Text(u"大小文字を区別しないなら、")) + u"検索文字列と置換文字列が同じです",
+        u"テキストエラー");
   }
   if (!beginJob(true, true)) return;
   CellRun run;
@@ -133,7 +124,6 @@ void frmREPLACE::frmREPLACE_Command4_Click() {
   mode.clear();
   screen().unload(*this);
 }
-
 
 void registerReplaceForm() {
   registerForm<frmREPLACE>();
