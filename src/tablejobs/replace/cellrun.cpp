@@ -26,11 +26,13 @@ std::vector<int> itemsBetween(int first, int last) {
   return items;
 }
 
-// The cell without the blanks that fill it up.
+// The cell without the blanks that fill it up; one that is justified to the right loses those behind it too, and is
+// justified anew.
 std::string_view filledPart(std::string_view cell, bool right) {
-  const std::size_t first = right ? cell.find_first_not_of(' ') : 0, last = cell.find_last_not_of(' ');
+  const std::size_t last = cell.find_last_not_of(' ');
   if (last == std::string_view::npos) return {};
-  return right ? cell.substr(first) : cell.substr(0, last + 1);
+  cell = cell.substr(0, last + 1);
+  return right ? cell.substr(cell.find_first_not_of(' ')) : cell;
 }
 
 class CellRunner {

@@ -18,7 +18,7 @@ class frmREPLACE : public Form {
   Label Label2{*this, u"Label2", u"置換文字列"};
   RichTextBox RichTextBox2{*this, u"RichTextBox2"};
   Button Command3{*this, u"Command3", u"実行(CR)"};
-  Frame Frame1{*this, u"Frame1", u"ﾃﾞﾌｫﾙﾄ(無印)/ｵﾌﾟｼｮﾝ(印有)"};
+  Label Label3{*this, u"Label3", u"ﾃﾞﾌｫﾙﾄ(無印)/ｵﾌﾟｼｮﾝ(印有)"};
   CheckBox Check1{*this, u"Check1", u"現在項目/全項目"};
   CheckBox Check2{*this, u"Check2", u"検索文字列を含む場合/一致する場合"};
   CheckBox Check3{*this, u"Check3", u"大小文字無区別/区別"};
