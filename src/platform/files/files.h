@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -31,8 +32,11 @@ enum class FileError {
 // Opens for random access by record number; a file that does not exist comes into being empty. A file that
 // may not be written is opened for reading, and its writes give pathAccess.
 FileError openRandom(int number, TextView path, int recordLength);
-// A missing file gives notFound, a folder pathAccess, a pipe or socket device.
-FileError openInput(int number, TextView path);
+constexpr std::int64_t kNoBound = std::numeric_limits<std::int64_t>::max();
+constexpr std::size_t kLongestLine = std::size_t{16} << 20;
+// A missing file gives notFound, a folder pathAccess, anything else that is no regular file device. Reading goes up to
+// `most` bytes, a line or field up to `longestLine`: what a file's format never has is not taken in, and gives device.
+FileError openInput(int number, TextView path, std::int64_t most = kNoBound, std::size_t longestLine = kLongestLine);
 // Replaces what stands there. Up to 64 KiB are replaced by one write when the file is closed, so that a program that
 // is killed leaves the old text or the new one; a longer text empties the file when its first 64 KiB go out.
 FileError openOutput(int number, TextView path);

@@ -38,7 +38,7 @@ FileError checkKind(const struct stat& status, OpenFile::Use use) {
     const bool readOnly = (status.st_mode & S_IWUSR) == 0;
     return use == OpenFile::Use::output && readOnly ? FileError::pathAccess : FileError::none;
   }
-  const bool isStream = S_ISCHR(status.st_mode) && use != OpenFile::Use::random;
+  const bool isStream = S_ISCHR(status.st_mode) && use == OpenFile::Use::output;  // a printer port
   return isStream ? FileError::none : FileError::device;
 }
 
@@ -141,9 +141,19 @@ FileError openRandom(int number, TextView path, int recordLength) {
   return error;
 }
 
-FileError openInput(int number, TextView path) {
+FileError openInput(int number, TextView path, std::int64_t most, std::size_t longestLine) {
   constexpr int kFlags[] = {O_RDONLY};
-  return openAs(number, path, OpenFile::Use::input, kFlags);
+  const FileError error = openAs(number, path, OpenFile::Use::input, kFlags);
+  if (error != FileError::none) return error;
+  OpenFile& file = *openFile(number, OpenFile::Use::input);
+  file.left = most;
+  file.longestLine = longestLine;
+  return error;
+}
+
+FileError openExclusive(int number, TextView path, OpenFile::Use use) {
+  constexpr int kFlags[] = {O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW};
+  return openAs(number, path, use, kFlags);
 }
 
 FileError openOutput(int number, TextView path) {

@@ -29,11 +29,15 @@ struct OpenFile {
   // Text: bytes read and not yet taken, or bytes to be written.
   std::string buffer;
   std::size_t taken = 0;
+  std::int64_t left = kNoBound;  // bytes that may still be read
+  std::size_t longestLine = kLongestLine;
   bool replaces = false;  // old contents still lie behind what is written
   std::int64_t written = 0;
   FileError error = FileError::none;
 };
 
+// A file that must not stand there yet, not as a link either.
+FileError openExclusive(int number, TextView path, OpenFile::Use use);
 // The file of that number where it is open for that use, else null.
 OpenFile* openFile(int number, OpenFile::Use use);
 // Called for every write past the record procedures: what the windows hold may have changed.
