@@ -146,6 +146,8 @@ FileError setReadOnly(TextView path, bool readOnly) {
   return result(chmod(nativePath(path).c_str(), readOnly ? others : others | S_IWUSR));
 }
 
+bool systemLetsWrite(TextView path) { return access(nativePath(path).c_str(), W_OK) == 0; }
+
 std::optional<Text> findIgnoringCase(TextView path) {
   if (fileExists(path)) return Text(path);
   const std::size_t start = nameStart(path);

@@ -33,10 +33,7 @@ bool isBeingMade(const std::string& name) {
   return file.number() >= 0 && flock(file.number(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
 }
 
-FileError openNew(int number, TextView path, OpenFile::Use use) {
-  const FileError freed = removeOwnName(path);
-  if (freed != FileError::none) return freed;
-  const FileError error = openExclusive(number, path, use);
+FileError locked(FileError error, int number, OpenFile::Use use) {
   if (error == FileError::none) flock(openFile(number, use)->descriptor, LOCK_EX | LOCK_NB);
   return error;
 }
@@ -44,12 +41,16 @@ FileError openNew(int number, TextView path, OpenFile::Use use) {
 }  // namespace
 
 FileError openNewRandom(int number, TextView path, int recordLength) {
-  const FileError error = openNew(number, path, OpenFile::Use::random);
-  if (error == FileError::none) openFile(number, OpenFile::Use::random)->recordLength = recordLength;
-  return error;
+  const FileError freed = removeOwnName(path);
+  if (freed != FileError::none) return freed;
+  return locked(createRandom(number, path, recordLength), number, OpenFile::Use::random);
 }
 
-FileError openNewOutput(int number, TextView path) { return openNew(number, path, OpenFile::Use::output); }
+FileError openNewOutput(int number, TextView path) {
+  const FileError freed = removeOwnName(path);
+  if (freed != FileError::none) return freed;
+  return locked(createOutput(number, path), number, OpenFile::Use::output);
+}
 
 FileError removeOwnName(TextView path) {
   const std::string name = nativePath(path);

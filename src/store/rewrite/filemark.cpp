@@ -54,7 +54,7 @@ FileMark Marking::mark() const {
 }
 
 std::optional<FileMark> markOfFile(TextView path) {
-  if (isLink(path) || !fileExists(path) || openRandom(kFile, path, 1) != FileError::none) return std::nullopt;
+  if (isLink(path) || !fileExists(path) || openRandomToRead(kFile, path, 1) != FileError::none) return std::nullopt;
   Marking marking;
   std::vector<char> block(std::size_t{1} << 20);
   std::int64_t at = 0;
