@@ -33,7 +33,7 @@ void toggleReadOnly() {
   if (docPath.empty()) return host().beep();
   const bool lock = !tableIsReadOnly();
   // There is no attribute to be released where the medium itself refuses.
-  if (lock && !systemLetsWrite(joinName(docDrive, docPath))) {
+  if (lock && systemForbidsWriting(joinName(docDrive, docPath))) {
     showReadOnlyMark(true);
     return tellFailure(u"書き込みのできない媒体か、書き込みの許されていないﾌｧｲﾙです。ここでは解除出来ません",
                        titleOf(false));

@@ -4,9 +4,9 @@
 #include <functional>
 
 #include "editor/clip/clip_session.h"
+#include "fulldisk.h"
 #include "platform/files/files.h"
 #include "platform/text/sjis.h"
-#include "store/store_fixture.h"
 #include "store/table/cursor.h"
 #include "store/table/itemfile.h"
 #include "voice/talk.h"
