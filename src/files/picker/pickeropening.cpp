@@ -6,7 +6,7 @@
 #include "editor/moves/moves.h"
 #include "editor/show/spitem.h"
 #include "editor/show/view.h"
-#include "files/picker/pickerwords.h"
+#include "parts/disk/filewords.h"
 #include "platform/files/files.h"
 #include "platform/host.h"
 #include "store/records/records.h"
