@@ -38,7 +38,8 @@ Text lineAt(TextView text, std::size_t caret) {
 void LineReader::keyDown() { lineBefore_ = startOfLine(box_.content(), static_cast<std::size_t>(box_.selStart())); }
 
 bool LineReader::keyUp(const KeyEvent& key) {
-  if (words_.places && isVertical(key.code) && key.mask == shift::Shift) {
+  // Shift+PageDown is the key that repeats what was said.
+  if (words_.places && (key.is(key::Up, shift::Shift) || key.is(key::Down, shift::Shift))) {
     talkSelection(box_, key.code);
     return true;
   }

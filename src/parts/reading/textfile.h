@@ -7,10 +7,10 @@
 
 namespace zelko {
 
-// All lines, Shift-JIS, each with CR LF behind it; nullopt where the file can't be read to its end. Reads as file 2.
+// All lines, Shift-JIS, each with CR LF behind it; nullopt where the file can't be read to its end.
 std::optional<Text> readTextFile(TextView path);
 
-// The text as it stands, Shift-JIS, in place of what is there. False where a byte did not reach the file. As file 2.
+// The text as it stands, Shift-JIS, in place of what is there. False where a byte did not reach the file.
 bool writeTextFile(TextView path, TextView text);
 
 }  // namespace zelko

@@ -1,7 +1,6 @@
 #include "parts/report/report.h"
 
 #include "parts/disk/filewords.h"
-#include "platform/files/files.h"
 #include "platform/host.h"
 #include "platform/text/daytime.h"
 #include "store/table/description.h"
@@ -34,10 +33,6 @@ Text resultFile(TextView folder) {
   return findIgnoringCase(path).value_or(path);
 }
 
-Report::~Report() {
-  if (open_) closeFile(kFile);
-}
-
 bool Report::open(TextView folder, bool anew) {
   path_ = resultFile(folder);
   failed_ = false;
@@ -45,13 +40,13 @@ bool Report::open(TextView folder, bool anew) {
     tellFailure(u"このフォルダのKEKKA.TXTは、表のﾌｧｲﾙです。別のフォルダを指定してください", kTitle);
     return false;
   }
-  open_ = (anew ? openOutput(kFile, path_) : openAppend(kFile, path_)) == FileError::none;
-  if (!open_) tellFailure(spokenName(path_) + u"が開けません。フォルダを確認してください", kTitle);
-  return open_;
+  if ((anew ? file_.openOutput(path_) : file_.openAppend(path_)) == FileError::none) return true;
+  tellFailure(spokenName(path_) + u"が開けません。フォルダを確認してください", kTitle);
+  return false;
 }
 
 void Report::line(TextView text) {
-  if (open_ && printLine(kFile, text) != FileError::none) failed_ = true;
+  if (printLine(file_.number(), text) != FileError::none) failed_ = true;
 }
 
 void Report::head(TextView title) {
@@ -62,9 +57,7 @@ void Report::head(TextView title) {
 }
 
 bool Report::close() {
-  if (!open_) return false;
-  open_ = false;
-  if (closeFile(kFile) == FileError::none && !failed_) return true;
+  if (file_.close() == FileError::none && !failed_) return true;
   tellFailure(spokenName(path_) + u"に書き込めませんでした。ディスクの空きとフォルダを確認してください", kTitle);
   return false;
 }

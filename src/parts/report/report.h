@@ -4,21 +4,15 @@
 
 #include <cstdint>
 
+#include "platform/files/ownedfile.h"
 #include "platform/text/printline.h"
 #include "platform/text/text.h"
 
 namespace zelko {
 
+// A report that goes out of scope open is closed; a failure is not told any more.
 class Report {
  public:
-  static constexpr int kFile = 2;  // the number it is open under
-
-  Report() = default;
-  // Closes it; a failure is not told any more.
-  ~Report();
-  Report(const Report&) = delete;
-  Report& operator=(const Report&) = delete;
-
   // Opens KEKKA.TXT in the folder, in whatever case it stands there, to write behind what it holds, or `anew` in its
   // place. False after a message: it can't be opened, or it is a file of a table.
   bool open(TextView folder, bool anew);
@@ -32,7 +26,8 @@ class Report {
 
  private:
   Text path_;
-  bool open_ = false, failed_ = false;
+  OwnedFile file_;
+  bool failed_ = false;
 };
 
 // The two forms of the line that tells which records a report covers.
