@@ -1,6 +1,6 @@
 #include "files/picker/othertables.h"
 
-#include "files/picker/ownnames.h"
+#include "parts/disk/ownnames.h"
 #include "platform/files/files.h"
 #include "store/rewrite/recovery.h"
 #include "store/table/itemfile.h"

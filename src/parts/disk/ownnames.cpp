@@ -1,4 +1,4 @@
-#include "files/picker/ownnames.h"
+#include "parts/disk/ownnames.h"
 
 #include <algorithm>
 #include <iterator>
