@@ -113,12 +113,6 @@ void HeadlessHost::letEventsThrough() {
   deliverDue();
 }
 
-// Only a clock that has moved makes a timer fall due.
-bool HeadlessHost::eventWaits() {
-  return elapsed_ != lookedAt_ || std::any_of(deliveries_.begin(), deliveries_.end(),
-                                              [this](const Delivery& due) { return due.pass <= passes_ + 1; });
-}
-
 void HeadlessHost::deliverDue() {
   for (std::size_t at = 0; at < deliveries_.size();) {
     if (deliveries_[at].pass > passes_) {

@@ -121,7 +121,7 @@ TEST_CASE("exit statuses and what is told on the way") {
       {"Ctrl+dblclick Form1.ok\ndblclick Form1.ok", 0, "say ok\nsay held 2\nsay ok\nsay held 0\n", ""},
       {"compose [か]な\ncompose 仮名\ncommit 仮名\ncompose x\ncompose ", 0,
        "say かな|か\nsay 仮名|\nsay |\nsay text 仮名\nsay x|\nsay |\n", ""},
-      {"later 2 wait 1.5\nkey F8", 0, "say tick 10:00:01\nsay tick 10:00:02\nsay nynn\n", ""},
+      {"later 2 wait 1.5\nkey F8", 0, "say tick 10:00:01\nsay tick 10:00:02\nsay yynn\n", ""},
       {"key F9\nport COM2 silent\nkey F9\nport COM2 fails\nkey F9\nport COM2 busy\nkey F9", 0,
        "serial 2 ATDT1;\\r\\n\nsay answer \\nOK\\n\nserial 2 ATDT1;\\r\\n\nsay answer \nsay refused\nsay answer \n"
        "say no port\n",
