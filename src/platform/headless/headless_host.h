@@ -48,8 +48,8 @@ class HeadlessHost : public Host {
   void formForgotten(Form& form) override;
   void runModal(Form& form) override;
   void letEventsThrough() override;
-  // A delivery is counted in passes, so that each pass is wanted while one is due; and only a clock that has moved makes
-  // a timer fall due.
+  // A delivery is counted in passes, so that each pass is wanted while one is due; and only a clock that has moved
+  // makes a timer fall due.
   bool eventWaits() override { return !deliveries_.empty() || elapsed_ != lookedAt_; }
   void waitSeconds(double seconds) override;
   float dayTimer() override;
