@@ -102,8 +102,8 @@ FileError makeDirectory(TextView path);
 // read-only.
 bool isReadOnly(TextView path);
 FileError setReadOnly(TextView path, bool readOnly);
-// Whether this user can't write a file that is there, whatever the attribute says: on a medium that can only be read, or
-// where the file's owner forbids it.
+// Whether this user can't write a file that is there, whatever the attribute says: on a medium that can only be read,
+// or where the file's owner forbids it.
 bool systemForbidsWriting(TextView path);
 
 // The file of that name in any case of its letters (the exact name first, then the first by code unit), its folder
