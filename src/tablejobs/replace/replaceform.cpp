@@ -36,8 +36,9 @@ frmREPLACE::frmREPLACE() : Form(kName, u"文字列の置換"), savedRecord_(curR
   RichTextBox1.labelledBy = &Label1;
   RichTextBox2.labelledBy = &Label2;
   for (Control* control :
-       {static_cast<Control*>(&Label2), static_cast<Control*>(&Command3), static_cast<Control*>(&Label3), static_cast<Control*>(&Check1),
-        static_cast<Control*>(&Check3), static_cast<Control*>(&Check5), static_cast<Control*>(&Command1)})
+       {static_cast<Control*>(&Label2), static_cast<Control*>(&Command3), static_cast<Control*>(&Label3),
+        static_cast<Control*>(&Check1), static_cast<Control*>(&Check3), static_cast<Control*>(&Check5),
+        static_cast<Control*>(&Command1)})
     control->place = Place::newRow;
   wire();
   narrate();
