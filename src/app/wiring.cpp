@@ -8,6 +8,7 @@
 #include "files/start/startscreen.h"
 #include "tablejobs/extract/form7.h"
 #include "tablejobs/search/search.h"
+#include "tablejobs/replace/registerreplace.h"
 #include "voice/dialogs.h"
 #include "voice/narration.h"
 
@@ -23,6 +24,7 @@ void wireProgram() {
   registerOutputFiles();
   registerSearch();
   registerExtraction();
+  registerReplacement();
   narrateMenus();
 }
 
