@@ -63,9 +63,11 @@ bool ofWholeNumbers(std::span<const double> x, std::span<const double> y, double
 double ofValues(std::span<const double> x, std::span<const double> y) {
   const Spread sx = spreadOf(x), sy = spreadOf(y);
   if (sx.squares <= 0 || sy.squares <= 0) return 0;
-  const double dx = sx.mean - x[0], dy = sy.mean - y[0];
   long double sum = 0;
-  for (std::size_t i = 0; i < x.size(); ++i) sum += static_cast<long double>(x[i] - x[0] - dx) * (y[i] - y[0] - dy);
+  for (std::size_t i = 0; i < x.size(); ++i) {
+    const double dx = (x[i] - sx.origin) - sx.shift, dy = (y[i] - sy.origin) - sy.shift;
+    sum += static_cast<long double>(dx) * dy;
+  }
   return static_cast<double>(sum / std::sqrt(static_cast<long double>(sx.squares) * sy.squares));
 }
 
