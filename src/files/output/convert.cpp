@@ -12,6 +12,7 @@
 #include "parts/disk/filewords.h"
 #include "parts/job/lateprogress.h"
 #include "platform/files/ownedfile.h"
+#include "platform/files/workfiles.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "platform/text/sjis.h"
@@ -109,7 +110,7 @@ TableDescription itemsOfConverted() {
 // The new table stands whole beside the old one before it takes its place.
 Conversion convert(const Text& source, const Text& fullName) {
   const Text unfinished = fullName.substr(0, fullName.rfind(u'/') + 1) + Text(kUnfinished);
-  deleteFile(unfinished);
+  if (removeOwnName(unfinished) != FileError::none) return {};
   RecordAppender output;
   OwnedFile text;
   const bool utf8 = sourceIsUtf8(source);
