@@ -7,6 +7,7 @@
 #include "files/output/outputending.h"
 #include "parts/cells.h"
 #include "platform/fault.h"
+#include "platform/files/blockfiles.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "store/records/records.h"
@@ -73,6 +74,7 @@ void Extraction::start() {
 }
 
 void Extraction::takeName(const Text& fullName) {
+  recordsBefore_ = std::max<std::int64_t>(lengthOf(fullName), 0) / recLen;
   if (!output_->open(fullName)) return;
   outputName_ = fullName;
   state_ = State::named;
@@ -89,7 +91,7 @@ bool Extraction::write(std::string_view data) {
   return true;
 }
 
-void Extraction::showOutput() { controls_.form.setCaption(decimal(written_) + u":" + outputName_); }
+void Extraction::showOutput() { controls_.form.setCaption(decimal(recordsBefore_ + written_) + u":" + outputName_); }
 
 // --- The scan ---------------------------------------------------------------------------------------------------
 

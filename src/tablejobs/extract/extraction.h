@@ -74,6 +74,7 @@ class Extraction {
   State state_ = State::idle;
   std::unique_ptr<OutputTable> output_;
   Text outputName_, caption_;
+  std::int64_t recordsBefore_ = 0;  // in the output
   std::int64_t hits_ = 0, written_ = 0;
   std::int32_t atRecord_ = 1;  // of the scan
   CellAt saved_;               // the cursor when the form was opened
