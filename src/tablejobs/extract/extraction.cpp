@@ -63,12 +63,12 @@ void Extraction::start() {
       button->setEnabled(false);
   }
   output_ = std::make_unique<OutputTable>();
-  mode = kOutputJob;
   asking = this;
-  showOutputDialog();
+  showOutputDialog(kOutputJob);
   asking = nullptr;
   controls_.stop.setEnabled(true);
   if (state_ != State::named) return stayHere();
+  mode = kOutputJob;
   waitSec(kBeforeScan);
   begin();
 }
@@ -81,8 +81,6 @@ void Extraction::takeName(const Text& fullName) {
   const Silence silence;
   closeOutputDialog();
 }
-
-void Extraction::nameCancelled() { mode = kOpenWord; }
 
 bool Extraction::write(std::string_view data) {
   writeFailed_ = !output_->records().append(data.substr(0, kDataBytes));
@@ -270,11 +268,8 @@ void Extraction::stayHere() {
 
 void registerExtractionOutput() {
   registerOutputJob(kOutputJob, {[](const Text& fullName) {
-                                   if (asking) asking->takeName(fullName);
-                                 },
-                                 [] {
-                                   if (asking) asking->nameCancelled();
-                                 }});
+                      if (asking) asking->takeName(fullName);
+                    }});
 }
 
 }  // namespace zelko

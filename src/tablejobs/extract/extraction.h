@@ -45,7 +45,6 @@ class Extraction {
   Text stopSentence() const;
   // The job of the output dialog: takes the name, or tells why not.
   void takeName(const Text& fullName);
-  void nameCancelled();
 
  private:
   enum class State { idle, named, scanning, candidate };

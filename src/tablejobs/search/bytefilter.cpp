@@ -82,8 +82,33 @@ ByteFilter::ByteFilter(TextView wanted, Spelling spelling) {
     while (last != codes.end() && last->character == unit) ++last;
     codes_.emplace_back(first, last);
   }
-  if (codes_.empty()) return;
-  for (const Code& code : codes_[0]) begins_[static_cast<unsigned char>(code.bytes[0])] = true;
+  if (!codes_.empty()) takeStarts();
+}
+
+void ByteFilter::takeStarts() {
+  constexpr std::size_t kMostStarts = 8;
+  for (const Code& code : codes_[0]) {
+    begins_[static_cast<unsigned char>(code.bytes[0])] = true;
+    if (code.length > 1) {
+      starts_.push_back({code.bytes[0], code.bytes[1], false});
+    } else if (codes_.size() == 1) {
+      starts_.push_back({code.bytes[0], 0, true});
+    } else {
+      for (const Code& next : codes_[1]) starts_.push_back({code.bytes[0], next.bytes[0], false});
+    }
+  }
+  std::ranges::sort(starts_);
+  starts_.erase(std::unique(starts_.begin(), starts_.end()), starts_.end());
+  if (starts_.size() > kMostStarts) starts_.clear();
+}
+
+// Without a branch in the loop, so that many bytes are looked at in one step.
+bool ByteFilter::holds(std::string_view bytes, Start start) {
+  if (start.alone) return bytes.find(start.first) != std::string_view::npos;
+  unsigned char found = 0;
+  for (std::size_t i = 0; i + 1 < bytes.size(); ++i)
+    found |= static_cast<unsigned char>((bytes[i] == start.first) & (bytes[i + 1] == start.second));
+  return found != 0;
 }
 
 bool ByteFilter::standsAt(const char* at, const char* end) const {
@@ -99,6 +124,8 @@ bool ByteFilter::standsAt(const char* at, const char* end) const {
 
 bool ByteFilter::mayHold(std::string_view bytes) const {
   if (codes_.empty()) return true;
+  const auto held = [&](Start start) { return holds(bytes, start); };
+  if (!starts_.empty() && std::ranges::none_of(starts_, held)) return false;
   const char* const end = bytes.data() + bytes.size();
   for (const char* at = bytes.data(); at != end; ++at)
     if (begins_[static_cast<unsigned char>(*at)] && standsAt(at, end)) return true;

@@ -39,10 +39,20 @@ class ByteFilter {
   };
   static std::vector<Code> madeCodes(Spelling spelling);
   static const std::vector<Code>& codesOf(Spelling spelling);
+  // The bytes that the text may begin with.
+  struct Start {
+    char first, second;
+    bool alone;  // the second may be any
+
+    auto operator<=>(const Start&) const = default;
+  };
+  void takeStarts();
+  static bool holds(std::string_view bytes, Start start);
   bool standsAt(const char* at, const char* end) const;
 
   std::vector<std::span<const Code>> codes_;  // of each character looked for; empty: nothing can be said
   std::array<bool, 256> begins_{};            // bytes that its first character begins with
+  std::vector<Start> starts_;                 // empty where there are too many to look for each
 };
 
 }  // namespace zelko

@@ -14,6 +14,7 @@
 #include "tablejobs/extract/form2.h"
 #include "tablejobs/extract/form7.h"
 #include "voice/askforms.h"
+#include "voice/dialogs.h"
 
 using namespace zelko;
 using namespace zelko::test;
@@ -31,7 +32,8 @@ std::string anyRecord() {
   constexpr std::string_view kPieces[] = {" ", "7",        "12",   "-3",       "1.5", "a",
                                           "A", "\x83\x5C", "\xB1", "\x93\x8C", "\x81"};
   std::string out;
-  while (out.size() < 254) out += kPieces[any(static_cast<int>(std::size(kPieces)))] + std::string(any(3), ' ');
+  while (out.size() < 254)
+    out.append(kPieces[any(static_cast<int>(std::size(kPieces)))]).append(static_cast<std::size_t>(any(3)), ' ');
   return out.substr(0, 254) + "\r\n";
 }
 
