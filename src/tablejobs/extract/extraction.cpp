@@ -16,6 +16,7 @@
 #include "store/table/notice.h"
 #include "tablejobs/search/search.h"
 #include "voice/dialogs.h"
+#include "voice/heard.h"
 #include "voice/talk.h"
 
 namespace zelko {
@@ -153,8 +154,7 @@ void Extraction::showCandidate() {
     controls_.take.setFocus();
   }
   if (talkMode == 0) return;
-  waitBehindDialog();
-  talkLast = 0;
+  nextIsHeard();
   talkGated(candidateSentence());
 }
 
@@ -252,7 +252,7 @@ void Extraction::fail(bool telling) {
 void Extraction::backToSource() {
   const std::int32_t last = recCount() + 1;
   showFoundCell({std::clamp(saved_.record, 1, last), std::clamp<std::int16_t>(saved_.item, 0, itemCount)});
-  talkLast = 0;
+  nextIsHeard();
   screen().unload(controls_.form);
 }
 

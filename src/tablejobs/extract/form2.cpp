@@ -10,6 +10,7 @@
 #include "store/table/cursor.h"
 #include "tablejobs/extract/form7.h"
 #include "voice/dialogs.h"
+#include "voice/heard.h"
 #include "voice/names.h"
 #include "voice/narration.h"
 #include "voice/talk.h"
@@ -34,7 +35,7 @@ void openExtraction(bool storesBox, TextView preset) {
   dropRange();
   F& dialog = form<F>();
   if constexpr (requires { dialog.preset(preset); }) dialog.preset(preset);
-  waitBehindDialog();
+  waitPastGate();
   dialog.showModal();
 }
 

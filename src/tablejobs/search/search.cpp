@@ -13,6 +13,7 @@
 #include "store/table/notice.h"
 #include "tablejobs/search/searchform.h"
 #include "voice/dialogs.h"
+#include "voice/heard.h"
 #include "voice/talk.h"
 
 namespace zelko {

@@ -11,6 +11,7 @@
 #include "store/records/records.h"
 #include "store/table/cursor.h"
 #include "voice/dialogs.h"
+#include "voice/heard.h"
 #include "voice/talk.h"
 
 namespace zelko {
@@ -143,7 +144,10 @@ void frmSRCH::frmSRCH_Check1_Click() {
     return Text1.setFocus();
   }
   const auto item = askItem({u"検索項目番号を入力してください", u"検索項目", decimal(curItem)});
-  if (!item) return Check1.setValue(1);
+  if (!item) {
+    nextIsHeard();
+    return Check1.setValue(1);
+  }
   searchItem = *item;
   showItem();
   {
@@ -260,7 +264,7 @@ void frmSRCH::leave(CellAt cursor) {
   cursor.item = std::clamp<std::int16_t>(cursor.item, 0, itemCount);
   showFoundCell(cursor);
   showTitle();
-  talkLast = 0;
+  nextIsHeard();
   screen().unload(*this);
 }
 
