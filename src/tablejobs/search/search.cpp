@@ -166,8 +166,8 @@ void openSearchForm() {
 
 std::optional<SearchConditions> askSearchConditions(TextView job) {
   unload<frmSRCH>();
-  mode = job;
   frmSRCH& dialog = form<frmSRCH>();
+  dialog.askOnly(job);
   dialog.showModal();
   return dialog.conditions;
 }

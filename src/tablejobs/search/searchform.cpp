@@ -22,20 +22,15 @@ constexpr int kTimerMilliseconds = 4000;
 constexpr double kActivatePause = 0.3;    // seconds
 constexpr std::int32_t kShownEach = 256;  // records; of more, every so manieth
 
-bool isQuestionOfOther() { return mode == u"MLINE" || mode == u"MLINE3"; }
-
 }  // namespace
 
-frmSRCH::frmSRCH() : Form(kName, u"文字列の検索"), asksOnly_(isQuestionOfOther()), saved_{curRec, curItem} {
-  if (!contains(mode, u"MLINE")) mode = u"srch";
+frmSRCH::frmSRCH() : Form(kName, u"文字列の検索"), saved_{curRec, curItem} {
+  mode = u"srch";
   Text1.labelledBy = &Label1;
   Label2.place = Place::sameRow;
   Label3.place = Command2.place = Place::newRow;
   for (CheckBox* box : {&Check1, &Check2, &Check3, &Check4, &Check5}) box->place = Place::newRow;
   Check1.setValue(1);
-  for (Control* control :
-       {static_cast<Control*>(&Command2), static_cast<Control*>(&Check4), static_cast<Control*>(&Check5)})
-    control->setEnabled(!asksOnly_);
   Command1.isDefault = true;
   Command3.isCancel = true;
   Timer1.setInterval(kTimerMilliseconds);
@@ -76,6 +71,11 @@ void frmSRCH::wireButtons() {
   onClose = [this] { frmSRCH_Command3_Click(); };
 }
 
+void frmSRCH::askOnly(TextView job) {
+  asksFor_ = mode = job;
+  enableAll(true);
+}
+
 void frmSRCH::chooseDirection() {
   const bool last = curRec == recCount(), first = curRec == 1;
   const Silence silence;
@@ -104,7 +104,7 @@ void frmSRCH::frmSRCH_Activate() {
 }
 
 void frmSRCH::frmSRCH_Unload() {
-  if (mode != u"MLINE") mode.clear();
+  if (asksFor_ != u"MLINE") mode.clear();
   Timer1.setEnabled(false);
 }
 
@@ -158,7 +158,7 @@ void frmSRCH::frmSRCH_Check1_Click() {
 }
 
 void frmSRCH::frmSRCH_Command1_Click() {
-  if (asksOnly_) {
+  if (asksOnly()) {
     conditions = SearchConditions{trimmed(Text1.content()), Check1.value(), Check2.value(), Check3.value(), searchItem};
     return screen().unload(*this);
   }
@@ -179,14 +179,14 @@ void frmSRCH::frmSRCH_Command1_Click() {
 }
 
 void frmSRCH::frmSRCH_Command2_Click() {
-  if (isQuestionOfOther()) return screen().unload(*this);
+  if (asksOnly()) return screen().unload(*this);
   leave(saved_);
 }
 
 void frmSRCH::frmSRCH_Command3_Click() {
   stopAsked_ = true;
   if (scanning_) return;  // the scan sees it, and leaves
-  if (isQuestionOfOther()) return screen().unload(*this);
+  if (asksOnly()) return screen().unload(*this);
   leave({curRec, curItem});
 }
 
@@ -276,7 +276,7 @@ void frmSRCH::enableAll(bool enabled) {
     control->setEnabled(enabled);
   for (Control* control :
        {static_cast<Control*>(&Check4), static_cast<Control*>(&Check5), static_cast<Control*>(&Command2)})
-    control->setEnabled(enabled && !asksOnly_);
+    control->setEnabled(enabled && !asksOnly());
 }
 
 }  // namespace zelko

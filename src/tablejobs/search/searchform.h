@@ -32,7 +32,8 @@ class frmSRCH : public Form {
   Label LabelIX{*this, u"LabelIX", u""};
   Timer Timer1{*this, u"Timer1"};
 
-  // A plain question for another form: what it was answered with.
+  // From now on a plain question for the job of that word; and what it was answered with.
+  void askOnly(TextView job);
   std::optional<SearchConditions> conditions;
 
   // The direction that a search from the cursor's place takes.
@@ -66,8 +67,10 @@ class frmSRCH : public Form {
   void leave(CellAt cursor);
   void enableAll(bool enabled);
 
-  bool asksOnly_;  // the second use: it does not search
-  CellAt saved_;   // the cursor when the form was loaded
+  bool asksOnly() const { return !asksFor_.empty(); }
+
+  Text asksFor_;  // the job that it asks for; empty where it searches
+  CellAt saved_;  // the cursor when the form was loaded
   SearchRound round_;
   bool scanning_ = false, stopAsked_ = false, found_ = false;
   std::int32_t count_ = 0;  // of records, while a scan runs
