@@ -90,6 +90,7 @@ void extract(HeadlessHost& machine, const Text& output) {
   for (int row = 1; row <= 2; ++row) {
     for (int col = 1; col <= 4; ++col) dialog.Grid1.setCellText(row, col, cells[row - 1][col - 1]);
   }
+  dialog.Text1.setText(cells[0][0]);
   dialog.Check2.setValue(1);
   machine.nextAction = [&] {
     if (auto* name = loadedForm<formHOZON>()) {

@@ -233,6 +233,11 @@ void Extraction::workOn(bool stopped) {
     ++composedSentences;
     talkNow(message + rules_.closingWord);
   }
+  {
+    // Where the focus comes back to when the question is answered.
+    const Silence silence;
+    controls_.conditions.setFocus();
+  }
   askWhereToWork(message, u"作業終了しました!");
   if (msgAnswer == kYes) return backToSource();
   if (msgAnswer != kNo) return stayHere();

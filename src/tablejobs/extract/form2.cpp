@@ -2,6 +2,7 @@
 
 #include "editor/main/commands.h"
 #include "editor/main/inputbox.h"
+#include "editor/show/itemlist.h"
 #include "editor/show/sheet.h"
 #include "parts/job/job.h"
 #include "platform/host.h"
@@ -18,6 +19,8 @@
 namespace zelko {
 
 namespace {
+
+constexpr int kListCode = 85;  // of Form7 in the list of the items
 
 constexpr TextView kExplanation =
     u"検索文字列を含む記録を探し、その記録だけを抽出し,新しいﾌｧｲﾙを作ります｡"
@@ -117,6 +120,9 @@ void registerExtraction() {
   registerForm<Form7>();
   registerForm<Form2>();
   registerExtractionOutput();
+  registerListCaller(kListCode, [](int item) {
+    if (Form7* there = loadedForm<Form7>()) there->takeItem(item);
+  });
   registerCommand(u"mnuMFIND", [] { openExtraction<Form7>(true, {}); });
   registerCommand(u"mnuFIND", [] {
     const Text typed = inputText();

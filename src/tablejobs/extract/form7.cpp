@@ -153,8 +153,7 @@ bool Form7::ready() {
   const Text message = checkCondTable();
   if (!message.empty()) {
     host().beep();
-    showOK(message, kFaultTitle);
-    Text1.setFocus();
+    tellCellFault({{}, message, Text(kFaultTitle)}, Text1);
     return false;
   }
   tested_ = rowsOfGrid();

@@ -103,12 +103,21 @@ void ByteFilter::takeStarts() {
 }
 
 // Without a branch in the loop, so that many bytes are looked at in one step.
-bool ByteFilter::holds(std::string_view bytes, Start start) {
-  if (start.alone) return bytes.find(start.first) != std::string_view::npos;
+bool ByteFilter::holdsPair(std::string_view bytes, Start start) {
   unsigned char found = 0;
   for (std::size_t i = 0; i + 1 < bytes.size(); ++i)
     found |= static_cast<unsigned char>((bytes[i] == start.first) & (bytes[i + 1] == start.second));
   return found != 0;
+}
+
+bool ByteFilter::mayBegin(std::string_view bytes) const {
+  std::size_t at = 0;
+  for (auto start = starts_.begin(); start != starts_.end(); ++start) {
+    if (start == starts_.begin() || start->first != std::prev(start)->first) at = bytes.find(start->first);
+    if (at == std::string_view::npos) continue;
+    if (start->alone || holdsPair(bytes.substr(at), *start)) return true;
+  }
+  return starts_.empty();
 }
 
 bool ByteFilter::standsAt(const char* at, const char* end) const {
@@ -124,8 +133,7 @@ bool ByteFilter::standsAt(const char* at, const char* end) const {
 
 bool ByteFilter::mayHold(std::string_view bytes) const {
   if (codes_.empty()) return true;
-  const auto held = [&](Start start) { return holds(bytes, start); };
-  if (!starts_.empty() && std::ranges::none_of(starts_, held)) return false;
+  if (!mayBegin(bytes)) return false;
   const char* const end = bytes.data() + bytes.size();
   for (const char* at = bytes.data(); at != end; ++at)
     if (begins_[static_cast<unsigned char>(*at)] && standsAt(at, end)) return true;

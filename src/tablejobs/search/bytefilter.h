@@ -47,7 +47,8 @@ class ByteFilter {
     auto operator<=>(const Start&) const = default;
   };
   void takeStarts();
-  static bool holds(std::string_view bytes, Start start);
+  static bool holdsPair(std::string_view bytes, Start start);
+  bool mayBegin(std::string_view bytes) const;
   bool standsAt(const char* at, const char* end) const;
 
   std::vector<std::span<const Code>> codes_;  // of each character looked for; empty: nothing can be said

@@ -20,6 +20,7 @@ namespace zelko {
 
 std::optional<SearchSettings> lastSearch;
 std::int16_t searchItem = 0;
+std::optional<SearchConditions> searchConditions;
 
 namespace {
 
@@ -167,9 +168,10 @@ void openSearchForm() {
 std::optional<SearchConditions> askSearchConditions(TextView job) {
   unload<frmSRCH>();
   frmSRCH& dialog = form<frmSRCH>();
+  searchConditions.reset();
   dialog.askOnly(job);
   dialog.showModal();
-  return dialog.conditions;
+  return searchConditions;
 }
 
 void registerSearch() {

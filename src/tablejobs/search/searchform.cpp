@@ -159,7 +159,8 @@ void frmSRCH::frmSRCH_Check1_Click() {
 
 void frmSRCH::frmSRCH_Command1_Click() {
   if (asksOnly()) {
-    conditions = SearchConditions{trimmed(Text1.content()), Check1.value(), Check2.value(), Check3.value(), searchItem};
+    searchConditions =
+        SearchConditions{trimmed(Text1.content()), Check1.value(), Check2.value(), Check3.value(), searchItem};
     return screen().unload(*this);
   }
   if (docPath.empty() || recCount() < 1 || curRec > recCount()) return host().beep();

@@ -10,6 +10,7 @@ namespace zelko {
 // What the form was left with, and what it starts with: module-wide, for the keys that search without it.
 extern std::optional<SearchSettings> lastSearch;
 extern std::int16_t searchItem;  // chosen through Check1
+extern std::optional<SearchConditions> searchConditions;
 
 class frmSRCH : public Form {
  public:
@@ -32,9 +33,8 @@ class frmSRCH : public Form {
   Label LabelIX{*this, u"LabelIX", u""};
   Timer Timer1{*this, u"Timer1"};
 
-  // From now on a plain question for the job of that word; and what it was answered with.
+  // From now on a plain question for the job of that word; the answer is searchConditions.
   void askOnly(TextView job);
-  std::optional<SearchConditions> conditions;
 
   // The direction that a search from the cursor's place takes.
   void chooseDirection();
