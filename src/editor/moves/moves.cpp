@@ -24,7 +24,7 @@ void clearInputUnless(TextView busy) {
 }
 
 // The row of a record, where the cache holds it.
-CacheRow* rowOf(std::int32_t record) {
+CacheRow* rowInCache(std::int32_t record) {
   std::int64_t index = std::int64_t{record} - cacheBase + 2;
   if (index < 2 || index >= kCacheRows) return nullptr;
   return &recCache[static_cast<std::size_t>(index)];
@@ -83,18 +83,17 @@ void prevItem() {
   if (mode == kChoosingRange) return;
   emptyInputBox();
   dispAll(curItem);
-  takeRow(curRec);
   show();
   if (mode != u"moveitem") focusInputBox();
 }
 
 void nextRec(std::int16_t& item) {
   bool choosing = mode == kChoosingRange;
-  if (!choosing) flushRec();
+  if (!choosing && !flushRec() && storeWasHeldBack()) return;
   std::int32_t count = recCount();
   if (curRec > count) return host().beep();
   if (curRec == count) {
-    if (CacheRow* row = rowOf(curRec + 1)) setRow(*row, blankRec);
+    if (CacheRow* row = rowInCache(curRec + 1)) setRow(*row, blankRec);
   }
   ++curRec;
   if (choosing) return;
@@ -110,9 +109,9 @@ void nextRec(std::int16_t& item) {
 
 void prevRec(std::int16_t& item) {
   bool choosing = mode == kChoosingRange;
-  if (!choosing) flushRec();
+  if (!choosing && !flushRec() && storeWasHeldBack()) return;
   if (curRec == 1) return host().beep();
-  CacheRow* left = rowOf(curRec);
+  CacheRow* left = rowInCache(curRec);
   if (curRec > recCount() && left && rowBytes(*left) == blankRec) setRow(*left, slashRec);
   // Off the cache there is no row to stamp or to show: the cursor stays.
   if (curRec - 1 < cacheBase) {
@@ -149,7 +148,7 @@ void goTo(std::int32_t record, std::int16_t item) {
 }
 
 void jumpTo(std::int32_t record, std::int16_t item) {
-  commitBox();
+  if (!commitBox()) return;
   goTo(record, item);
 }
 

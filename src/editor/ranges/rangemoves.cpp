@@ -2,6 +2,7 @@
 
 #include "editor/main/commands.h"
 #include "editor/main/state.h"
+#include "editor/moves/commit.h"
 #include "editor/ranges/range.h"
 #include "editor/ranges/rangekeys.h"
 #include "editor/ranges/targetdialog.h"
@@ -93,6 +94,7 @@ void startItemMove(int direction) {
   if (block.item2 >= itemCount - 2 && block.item1 == 0) return refuseAndDrop();
   const int target = firstItemTarget(block, direction);
   if (target < 0) return host().beep();
+  if (!commitBox()) return;
   mode = u"moveitem";
   moveTo = target;
   curItem = static_cast<std::int16_t>(target);
@@ -106,6 +108,7 @@ void startRecordMove(int direction) {
   if (block.rec2 >= count - 2 && block.rec1 == 1) return refuseAndDrop();
   const std::int32_t target = firstRecordTarget(block, count, direction);
   if (target < 0) return host().beep();
+  if (!commitBox()) return;
   mode = u"moverecord";
   moveTo = curRec = target;
   pointAtTarget({u"記録の移動", u"記録移動実行(CR)", kMoveRecords});
@@ -114,6 +117,7 @@ void startRecordMove(int direction) {
 void startDataMove(TextView what) {
   if (refusedAsReadOnly()) return;
   const RangeBlock block = heldBlock();
+  if (!commitBox()) return;
   mode = what;
   moveTo = curRec = block.rec1;
   curItem = block.item1;

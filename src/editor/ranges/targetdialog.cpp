@@ -111,7 +111,6 @@ void frmMSSG::moveDataThere() {
 }
 
 void pointAtTarget(const PointingWords& words) {
-  commitBox();
   autoIdOn = 0;
   loadCache(curRec);
   showSilently();

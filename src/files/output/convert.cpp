@@ -14,19 +14,20 @@
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "platform/text/sjis.h"
+#include "store/records/appender.h"
 #include "store/records/records.h"
 #include "store/rewrite/rewrite.h"
 #include "store/table/cursor.h"
 #include "store/table/itemfile.h"
 #include "store/table/notice.h"
 #include "voice/dialogs.h"
+#include "voice/progress.h"
 #include "voice/talk.h"
 
 namespace zelko {
 
 namespace {
 
-constexpr int kOutput = 3, kText = 4;
 constexpr TextView kUnfinished = u"HENKAN.QQQ";
 constexpr TextView kConfirm = u"確認";
 constexpr TextView kFinished = u"作業終了ﾒｯｾ-ｼﾞ";
@@ -49,7 +50,7 @@ bool cutToRecord(std::string& bytes) {
 }
 
 struct Conversion {
-  bool written = false;
+  bool written = false, stopped = false;
   std::int64_t cutLines = 0;
 };
 
@@ -64,10 +65,11 @@ bool isUtf8(std::string_view line) {
 
 // Shift-JIS is what the program writes; a text of this desktop is more often UTF-8, which all its lines show.
 bool sourceIsUtf8(const Text& source) {
-  if (openInput(kText, source) != FileError::none) return false;
+  OwnedFile text;
+  if (text.openInput(source) != FileError::none) return false;
   bool utf8 = true;
-  for (std::string line; utf8 && !atEnd(kText) && readLineBytes(kText, line) == FileError::none;) utf8 = isUtf8(line);
-  closeFile(kText);
+  for (std::string line; utf8 && !atEnd(text.number()) && readLineBytes(text.number(), line) == FileError::none;)
+    utf8 = isUtf8(line);
   return utf8;
 }
 
@@ -79,21 +81,22 @@ std::string recordOf(std::string line, bool utf8) {
 }
 
 // A line is a record, left-justified.
-Conversion copyLines(bool utf8) {
+Conversion copyLines(const Text& source, RecordAppender& output) {
   Conversion done;
-  std::string line;
-  for (std::int32_t record = 1; !atEnd(kText); ++record) {
-    const FileError read = readLineBytes(kText, line);
+  const bool utf8 = sourceIsUtf8(source);
+  OwnedFile text;
+  if (text.openInput(source) != FileError::none) return done;
+  LateProgress progress(u"ﾌｧｲﾙ変換中", 0);
+  for (std::string line; !atEnd(text.number());) {
+    const FileError read = readLineBytes(text.number(), line);
     if (read == FileError::pastEnd) break;
-    if (read != FileError::none) return done;
+    done.stopped = !progress.step(0);
+    if (read != FileError::none || done.stopped) return done;
     std::string bytes = recordOf(line, utf8);
     if (!cutToRecord(bytes)) ++done.cutLines;
-    CacheRow row;
-    setRow(row, bytes);
-    if (putRecord(kOutput, record, row.data()) != FileError::none) return done;
-    host().letEventsThrough();
+    if (!output.append(bytes)) return done;
   }
-  done.written = syncFile(kOutput) == FileError::none;
+  done.written = output.finish();
   return done;
 }
 
@@ -107,24 +110,20 @@ TableDescription itemsOfConverted() {
 Conversion convert(const Text& source, const Text& fullName) {
   const Text unfinished = fullName.substr(0, fullName.rfind(u'/') + 1) + Text(kUnfinished);
   deleteFile(unfinished);
-  if (openRandom(kOutput, unfinished, recLen) != FileError::none) return {};
-  Conversion done;
-  const bool utf8 = sourceIsUtf8(source);
-  if (openInput(kText, source) == FileError::none) done = copyLines(utf8);
-  closeFile(kText);
-  if (closeFile(kOutput) != FileError::none) done.written = false;
+  RecordAppender output;
+  if (output.create(unfinished) != FileError::none) return {};
+  Conversion done = copyLines(source, output);
   Text drive, path;
   splitName(fullName, drive, path);
   done.written = done.written && writeKFileOf(path, drive, itemsOfConverted()) &&
                  replaceFile(unfinished, fullName) == FileError::none;
-  if (!done.written) deleteFile(unfinished);
+  if (done.written) output.keep();
   return done;
 }
 
 bool canBeRead(const Text& source) {
-  const bool opened = openInput(kText, source) == FileError::none;
-  closeFile(kText);
-  return opened;
+  OwnedFile text;
+  return text.openInput(source) == FileError::none;
 }
 
 bool isInTheWay(const Text& source, const Text& fullName) {
@@ -167,6 +166,7 @@ void runConversion(const Text& fullName) {
   if (!mayTakeOutput(fullName)) return tellNotOpened();
   if (fileExists(fullName) && !askYesNo(spokenName(fullName) + u"は既にあります。上書きしますか。", kConfirm)) return;
   const Conversion done = convert(source, fullName);
+  if (done.stopped) return talkBehindDialog(u"変換を中止しました。新しいﾌｧｲﾙは作られていません");
   if (!done.written) return tellWriteError();
   tellConverted(fullName, done);
   showConverted(fullName);

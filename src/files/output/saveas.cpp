@@ -6,9 +6,10 @@
 #include "files/output/outputending.h"
 #include "files/output/outputform.h"
 #include "files/picker/pickeropening.h"
-#include "platform/files/files.h"
 #include "platform/host.h"
+#include "store/records/appender.h"
 #include "store/records/records.h"
+#include "store/records/walk.h"
 #include "store/table/cursor.h"
 #include "store/table/itemfile.h"
 #include "store/table/notice.h"
@@ -19,38 +20,23 @@ namespace zelko {
 
 namespace {
 
-constexpr int kSource = 1, kOutput = 3;
+enum class Copy { done, notOpened, failed, stopped };
 
-enum class Copy { done, notOpened, failed };
-
-// The count is taken before the first record is written: the output may be the open table itself.
-bool appendRecords() {
-  const std::int32_t count = recCount();
-  auto at = static_cast<std::int32_t>(fileLength(kOutput) / recLen);
-  CacheRow record;
-  for (std::int32_t number = 1; number <= count; ++number) {
-    if (!getRec(kSource, number, record) || putRecord(kOutput, ++at, record.data()) != FileError::none) return false;
-    host().letEventsThrough();
-  }
-  return syncFile(kOutput) == FileError::none;
-}
-
-// The item file comes last: until then a failure can be taken back whole.
-bool writeOutput(const Text& fullName) {
-  Text drive, path;
-  splitName(fullName, drive, path);
-  const bool written = appendRecords();
-  const bool closed = closeFile(kOutput) == FileError::none;
-  return written && closed && writeKFile(path, drive);
-}
-
+// The item file comes last: until then everything is taken back where something fails or the user stops it. The
+// output may be the open table itself: the records that were there at the start are copied.
 Copy copyTable(const Text& fullName) {
   if (!mayTakeOutput(fullName)) return Copy::notOpened;
-  const OutputBefore before(fullName);
-  if (openRandom(kOutput, fullName, recLen) != FileError::none) return Copy::notOpened;
-  if (writeOutput(fullName)) return Copy::done;
-  before.putBack();
-  return Copy::failed;
+  RecordAppender output;
+  if (output.open(fullName) != FileError::none) return Copy::notOpened;
+  const Walk walk{.last = recCount(), .work = u"ﾌｧｲﾙ保存中"};
+  const auto append = [&output](const WalkedRecord& record) { return output.append(record.bytes()); };
+  const WalkEnd end = walkRecords(walk, append);
+  if (end == WalkEnd::stopped) return Copy::stopped;
+  Text drive, path;
+  splitName(fullName, drive, path);
+  if (end != WalkEnd::done || !output.finish() || !writeKFile(path, drive)) return Copy::failed;
+  output.keep();
+  return Copy::done;
 }
 
 void saveAs(const Text& fullName) {
@@ -59,6 +45,8 @@ void saveAs(const Text& fullName) {
       return tellFailure(u"出力ﾌｧｲﾙが開けません。もう一度確認してください", u"出力ﾌｧｲﾙが開けない");
     case Copy::failed:
       return tellWriteError();
+    case Copy::stopped:
+      return talkBehindDialog(u"保存を中止しました。新しいﾌｧｲﾙには何も書き込まれていません");
     case Copy::done:
       break;
   }

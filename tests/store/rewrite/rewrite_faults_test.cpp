@@ -86,11 +86,11 @@ TEST_CASE("killed in front of any call: the old table, the new one, or an offer 
       CAPTURE(call);
       const Files left = filesOf(store);
       // Who says no keeps everything, and is asked again.
-      store.answerQuestions(false);
+      store.answerQuestions(kNo);
       const bool opened = store.open("t.txt");
       const std::size_t asked = store.dialogs().size();
       CHECK(filesOf(store) == left);
-      store.answerQuestions(true);
+      store.answerQuestions(kYes);
       REQUIRE(store.open("t.txt"));
       CHECK(store.dialogs().size() == asked);
       CHECK(opened == (asked == 0));
@@ -167,7 +167,7 @@ TEST_CASE("an interrupted swap of another table is offered when its neighbour op
     if (std::filesystem::exists(store.path("t.txt"))) restart(store);
   }
   store.table("u.txt", {4}, {"u"});
-  store.answerQuestions(false);
+  store.answerQuestions(kNo);
   REQUIRE(store.open("u.txt"));
   CHECK(store.dialogs().size() == 1);
   REQUIRE(run({What::insert, 0, 0, 0, 1}) == RewriteEnd::done);
