@@ -9,8 +9,8 @@
 #include "files/picker/picker.h"
 #include "files/picker/pickerform.h"
 #include "files/picker/pickeropening.h"
-#include "files/picker/pickerwords.h"
-#include "platform/files/files.h"
+#include "parts/disk/filewords.h"
+#include "platform/files/workfiles.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "platform/text/sjis.h"
@@ -109,9 +109,8 @@ TableDescription itemsOfConverted() {
 // The new table stands whole beside the old one before it takes its place.
 Conversion convert(const Text& source, const Text& fullName) {
   const Text unfinished = fullName.substr(0, fullName.rfind(u'/') + 1) + Text(kUnfinished);
-  deleteFile(unfinished);
   RecordAppender output;
-  if (output.create(unfinished) != FileError::none) return {};
+  if (removeOwnName(unfinished) != FileError::none || output.create(unfinished) != FileError::none) return {};
   Conversion done = copyLines(source, output);
   Text drive, path;
   splitName(fullName, drive, path);
