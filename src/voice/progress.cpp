@@ -71,6 +71,13 @@ bool LateProgress::isLate() {
   return now - begun_ > kSeconds;
 }
 
+void LateProgress::close() {
+  const Silence silence;
+  dialog_.reset();
+}
+
+void LateProgress::restart() { begun_ = host().dayTimer(); }
+
 bool LateProgress::shows(std::int64_t done) { return dialog_ ? dialog_->shows(done) : isLate(); }
 
 bool LateProgress::step(std::int64_t done) {

@@ -42,6 +42,9 @@ class LateProgress {
   // As Progress.
   bool step(std::int64_t done);
   bool shows(std::int64_t done);
+  // Before a question: the dialog goes, unheard; behind it, the second begins anew.
+  void close();
+  void restart();
 
  private:
   bool isLate();

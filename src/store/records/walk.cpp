@@ -7,7 +7,6 @@
 #include "store/records/records.h"
 #include "store/records/walkblock.h"
 #include "voice/progress.h"
-#include "voice/talk.h"
 
 namespace zelko {
 
@@ -52,11 +51,7 @@ class Walker {
   // A question follows: the dialog goes, and opens again only when the walk itself takes its second.
   bool storeNow() {
     asked_ = true;
-    if (late_) {
-      const Silence silence;
-      late_.reset();
-      progress_ = nullptr;
-    }
+    if (late_) late_->close();
     block_.settle(record_.number_);
     isOld_ = true;
     failed_ = !block_.store(walk_.towardsHead) || failed_;
@@ -70,7 +65,7 @@ class Walker {
       const auto steps = static_cast<std::int32_t>(done_ - 1);
       if (!take(walk_.towardsHead ? highest_ - steps : lowest_ + steps)) return WalkEnd::failed;
       const bool further = visit(record_);
-      if (asked_) begun_ = host().dayTimer();
+      if (asked_ && late_) late_->restart();
       asked_ = false;
       block_.settle(record_.number_);
       if (failed_) return WalkEnd::failed;
