@@ -38,7 +38,7 @@ class Progress {
 // Work that is mostly short: its dialog opens once a second has passed.
 class LateProgress {
  public:
-  LateProgress(TextView work, std::int64_t total);
+  explicit LateProgress(TextView work, std::int64_t total = 0);
   // As Progress.
   bool step(std::int64_t done);
   bool shows(std::int64_t done);

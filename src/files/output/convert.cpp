@@ -10,12 +10,12 @@
 #include "files/picker/pickerform.h"
 #include "files/picker/pickeropening.h"
 #include "parts/disk/filewords.h"
+#include "platform/files/ownedfile.h"
 #include "platform/files/workfiles.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "platform/text/sjis.h"
 #include "store/records/appender.h"
-#include "store/records/records.h"
 #include "store/rewrite/rewrite.h"
 #include "store/table/cursor.h"
 #include "store/table/itemfile.h"
@@ -67,9 +67,9 @@ bool isUtf8(std::string_view line) {
 bool sourceIsUtf8(const Text& source) {
   OwnedFile text;
   if (text.openInput(source) != FileError::none) return false;
+  const int number = text.number();
   bool utf8 = true;
-  for (std::string line; utf8 && !atEnd(text.number()) && readLineBytes(text.number(), line) == FileError::none;)
-    utf8 = isUtf8(line);
+  for (std::string line; utf8 && !atEnd(number) && readLineBytes(number, line) == FileError::none;) utf8 = isUtf8(line);
   return utf8;
 }
 
@@ -81,20 +81,21 @@ std::string recordOf(std::string line, bool utf8) {
 }
 
 // A line is a record, left-justified.
-Conversion copyLines(const Text& source, RecordAppender& output) {
+Conversion copyLines(const OwnedFile& text, bool utf8, RecordAppender& output) {
   Conversion done;
-  const bool utf8 = sourceIsUtf8(source);
-  OwnedFile text;
-  if (text.openInput(source) != FileError::none) return done;
-  LateProgress progress(u"ﾌｧｲﾙ変換中", 0);
-  for (std::string line; !atEnd(text.number());) {
+  LateProgress progress(u"Zelkoﾌｧｲﾙ作成中");
+  std::string line;
+  while (!atEnd(text.number())) {
     const FileError read = readLineBytes(text.number(), line);
     if (read == FileError::pastEnd) break;
-    done.stopped = !progress.step(0);
-    if (read != FileError::none || done.stopped) return done;
+    if (read != FileError::none) return done;
     std::string bytes = recordOf(line, utf8);
     if (!cutToRecord(bytes)) ++done.cutLines;
     if (!output.append(bytes)) return done;
+    if (!progress.step(output.appended())) {
+      done.stopped = true;
+      return done;
+    }
   }
   done.written = output.finish();
   return done;
@@ -109,9 +110,12 @@ TableDescription itemsOfConverted() {
 // The new table stands whole beside the old one before it takes its place.
 Conversion convert(const Text& source, const Text& fullName) {
   const Text unfinished = fullName.substr(0, fullName.rfind(u'/') + 1) + Text(kUnfinished);
+  if (removeOwnName(unfinished) != FileError::none) return {};
   RecordAppender output;
-  if (removeOwnName(unfinished) != FileError::none || output.create(unfinished) != FileError::none) return {};
-  Conversion done = copyLines(source, output);
+  OwnedFile text;
+  const bool utf8 = sourceIsUtf8(source);
+  if (text.openInput(source) != FileError::none || output.create(unfinished) != FileError::none) return {};
+  Conversion done = copyLines(text, utf8, output);
   Text drive, path;
   splitName(fullName, drive, path);
   done.written = done.written && writeKFileOf(path, drive, itemsOfConverted()) &&
@@ -120,10 +124,7 @@ Conversion convert(const Text& source, const Text& fullName) {
   return done;
 }
 
-bool canBeRead(const Text& source) {
-  OwnedFile text;
-  return text.openInput(source) == FileError::none;
-}
+bool canBeRead(const Text& source) { return OwnedFile().openInput(source) == FileError::none; }
 
 bool isInTheWay(const Text& source, const Text& fullName) {
   const bool isSource = isSameFile(fullName, source);
@@ -165,7 +166,7 @@ void runConversion(const Text& fullName) {
   if (!mayTakeOutput(fullName)) return tellNotOpened();
   if (fileExists(fullName) && !askYesNo(spokenName(fullName) + u"は既にあります。上書きしますか。", kConfirm)) return;
   const Conversion done = convert(source, fullName);
-  if (done.stopped) return talkBehindDialog(u"変換を中止しました。新しいﾌｧｲﾙは作られていません");
+  if (done.stopped) return talkBehindDialog(u"中止しました。Zelkoﾌｧｲﾙは作られていません。");
   if (!done.written) return tellWriteError();
   tellConverted(fullName, done);
   showConverted(fullName);
@@ -174,21 +175,18 @@ void runConversion(const Text& fullName) {
 void askForConverted() {
   const Text source = pickedFile();
   if (source.empty()) return host().beep();
-  mode = u"CVZLKF";
-  showOutputDialog(convertedName(source));
+  showOutputDialog(u"CVZLKF", convertedName(source));
 }
 
 void openConversion() {
   storeTypedCell();
-  mode = u"CVZLKF";
-  showFilePicker();
-  if (mode == u"CVZLKF" || mode == u"tyusi") mode.clear();
+  showFilePicker(PickFor::text);
 }
 
 }  // namespace
 
 void registerConversion() {
-  registerOutputJob(u"CVZLKF", {runConversion, {}});
+  registerOutputJob(u"CVZLKF", {runConversion, {}, OutputManner::replaces});
   registerCommand(u"CVZLKF", askForConverted);
   registerCommand(u"mnuCZLK", openConversion);
 }

@@ -1,7 +1,6 @@
 #include "files/output/saveas.h"
 
 #include "editor/main/commands.h"
-#include "editor/moves/moves.h"
 #include "files/output/output.h"
 #include "files/output/outputending.h"
 #include "files/output/outputform.h"
@@ -10,27 +9,29 @@
 #include "store/records/appender.h"
 #include "store/records/records.h"
 #include "store/records/walk.h"
-#include "store/table/cursor.h"
 #include "store/table/itemfile.h"
 #include "store/table/notice.h"
 #include "voice/dialogs.h"
-#include "voice/talk.h"
 
 namespace zelko {
 
 namespace {
 
-enum class Copy { done, notOpened, failed, stopped };
+enum class Copy { done, notOpened, stopped, failed };
 
-// The item file comes last: until then everything is taken back where something fails or the user stops it. The
-// output may be the open table itself: the records that were there at the start are copied.
+// The count is taken before the first record is written: the output may be the open table itself.
+WalkEnd appendRecords(RecordAppender& output) {
+  Walk walk;
+  walk.last = recCount();
+  walk.work = u"新ﾌｧｲﾙ作成中";
+  return walkRecords(walk, [&](const WalkedRecord& record) { return output.append(record.bytes()); });
+}
+
+// The item file comes last: until then all of it can be taken back, which the appender does.
 Copy copyTable(const Text& fullName) {
-  if (!mayTakeOutput(fullName)) return Copy::notOpened;
   RecordAppender output;
-  if (output.open(fullName) != FileError::none) return Copy::notOpened;
-  const Walk walk{.last = recCount(), .work = u"ﾌｧｲﾙ保存中"};
-  const auto append = [&output](const WalkedRecord& record) { return output.append(record.bytes()); };
-  const WalkEnd end = walkRecords(walk, append);
+  if (!mayTakeOutput(fullName) || output.open(fullName) != FileError::none) return Copy::notOpened;
+  const WalkEnd end = appendRecords(output);
   if (end == WalkEnd::stopped) return Copy::stopped;
   Text drive, path;
   splitName(fullName, drive, path);
@@ -46,36 +47,25 @@ void saveAs(const Text& fullName) {
     case Copy::failed:
       return tellWriteError();
     case Copy::stopped:
-      return talkBehindDialog(u"保存を中止しました。新しいﾌｧｲﾙには何も書き込まれていません");
+      return talkBehindDialog(u"中止しました。新しい記録は書き込まれていません。");
     case Copy::done:
       break;
   }
-  askWhereToWork(u"元のﾌｧｲﾙで作業しますか、元のﾌｧｲﾙの場合　はい　、新ﾌｧｲﾙの場合 いいえ を押して下さい。",
-                 u"作業終了しました!");
-  const bool toOutput = msgAnswer == kNo;
-  mode.clear();
-  if (toOutput) {
-    workInOutput(fullName, form<formHOZON>());
-    return;
-  }
-  // Where the user is now is news, whatever the dialog said a moment ago.
-  talkLast = 0;
-  closeOutputDialog();
-  reloadCur();
+  endInOutput(fullName, form<formHOZON>(),
+              u"元のﾌｧｲﾙで作業しますか、元のﾌｧｲﾙの場合　はい　、新ﾌｧｲﾙの場合 いいえ を押して下さい。",
+              u"作業終了しました!");
 }
 
 void openSaveAs() {
   if (docPath.empty()) return host().beep();
   storeTypedCell();
-  mode = u"saveas";
-  showOutputDialog(besideTable({}));
-  if (mode == u"saveas") mode.clear();
+  showOutputDialog(u"saveas", besideTable({}));
 }
 
 }  // namespace
 
 void registerSaveAs() {
-  registerOutputJob(u"saveas", {saveAs, {}});
+  registerOutputJob(u"saveas", {saveAs, {}, OutputManner::copies});
   registerCommand(u"mnuRESAS", openSaveAs);
 }
 
