@@ -13,6 +13,7 @@
 #include "store/table/itemfile.h"
 #include "store/table/notice.h"
 #include "voice/dialogs.h"
+#include "voice/heard.h"
 #include "voice/names.h"
 #include "voice/narration.h"
 #include "voice/talk.h"

@@ -11,6 +11,7 @@
 #include "stats/frame/savetext.h"
 #include "store/table/notice.h"
 #include "voice/dialogs.h"
+#include "voice/heard.h"
 #include "voice/talk.h"
 
 namespace zelko {
@@ -85,13 +86,10 @@ bool AnalysisRun::finish(Form& form, const Text& closing, bool repeats) {
   analysisMode.clear();
   if (!report_.close()) return false;
   lastFile() = report_.path();
-  {
-    const Silence silence;
-    screen().unload(form);
-  }
+  closeUnheard(form);
   const Text said = closing.empty() ? title_ + Text(kFinished) : closing;
   if (!repeats) {
-    waitBehindDialog();
+    waitPastGate();
     showResultWindow(report_.path(), title_, said, report_.written());
     return true;
   }

@@ -8,6 +8,7 @@
 #include "store/table/itemfile.h"
 #include "store/table/notice.h"
 #include "voice/dialogs.h"
+#include "voice/heard.h"
 
 namespace zelko {
 
