@@ -7,6 +7,7 @@
 #include "platform/forms/lists.h"
 #include "store/records/walk.h"
 #include "store/table/cursor.h"
+#include "voice/talk.h"
 
 using namespace zelko;
 using namespace zelko::test;
