@@ -54,7 +54,7 @@ TEST_CASE_FIXTURE(test::FilesFixture, "a number that nothing can hold ends no co
   edit(table(u"t"));
   for (const char* command : {"mnuJUMP", "mnuHJ", "mnuLIMIT", "mnuIDAUTO", "mnuSPITEM", "mnuINSRECM", "mnuINH"}) {
     CAPTURE(command);
-    play({"wait 1", std::string("menu ") + command, "key Ctrl+A", "commit 1e400", "key Enter", "key Esc", "key Esc"});
+    play({"wait 1", std::string("menu ") + command, "key Ctrl+A", "type 1e400", "key Enter", "key Esc", "key Esc"});
     play({"wait 1", "key N", "key Esc"});
     REQUIRE_FALSE(ended());
   }
