@@ -54,8 +54,9 @@ TEST_CASE_FIXTURE(test::FilesFixture, "a number that nothing can hold ends no co
   edit(table(u"t"));
   for (const char* command : {"mnuJUMP", "mnuHJ", "mnuLIMIT", "mnuIDAUTO", "mnuSPITEM", "mnuINSRECM", "mnuINH"}) {
     CAPTURE(command);
-    play({"wait 1", std::string("menu ") + command, "key Ctrl+A", "type 1e400", "key Enter", "key Esc", "key Esc"});
-    play({"wait 1", "key N", "key Esc"});
+    play({"wait 1", std::string("menu ") + command});
+    if (screen().activeForm()->name() == u"frmTin") play({"key Ctrl+A", "commit 1e400", "key Enter"});
+    while (!ended() && screen().activeForm()->name() != u"Form1") play({"wait 1", "key Esc"});
     REQUIRE_FALSE(ended());
   }
   CHECK(records() == 1);
