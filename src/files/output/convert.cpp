@@ -10,7 +10,7 @@
 #include "files/picker/pickerform.h"
 #include "files/picker/pickeropening.h"
 #include "parts/disk/filewords.h"
-#include "platform/files/files.h"
+#include "platform/files/workfiles.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "platform/text/sjis.h"
@@ -106,8 +106,7 @@ TableDescription itemsOfConverted() {
 // The new table stands whole beside the old one before it takes its place.
 Conversion convert(const Text& source, const Text& fullName) {
   const Text unfinished = fullName.substr(0, fullName.rfind(u'/') + 1) + Text(kUnfinished);
-  deleteFile(unfinished);
-  if (openRandom(kOutput, unfinished, recLen) != FileError::none) return {};
+  if (openNewRandom(kOutput, unfinished, recLen) != FileError::none) return {};
   Conversion done;
   const bool utf8 = sourceIsUtf8(source);
   if (openInput(kText, source) == FileError::none) done = copyLines(utf8);
