@@ -12,11 +12,15 @@ endif()
 target_include_directories(zelko_test_options INTERFACE tests)
 target_link_libraries(zelko_test_options INTERFACE doctest::doctest)
 set_source_files_properties(tests/main.cpp PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
-# Those that read what is committed.
-set_source_files_properties(tests/assets/stock_test.cpp tests/store/table/itemfile_test.cpp
-  PROPERTIES COMPILE_DEFINITIONS ZELKO_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
 
 file(GLOB_RECURSE TESTS CONFIGURE_DEPENDS tests/*.cpp)
+# Those that read what is committed: the folder's name would keep the others out of the compiler cache.
+foreach(TEST ${TESTS})
+  file(STRINGS ${TEST} READS_SOURCES REGEX "ZELKO_SOURCE_DIR" LIMIT_COUNT 1)
+  if(READS_SOURCES)
+    set_source_files_properties(${TEST} PROPERTIES COMPILE_DEFINITIONS ZELKO_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+  endif()
+endforeach()
 list(FILTER TESTS EXCLUDE REGEX "/tests/(desktop|speech|fuzz|caserunner|kill|store|walker)/")
 add_executable(zelko_tests ${TESTS})
 target_link_libraries(zelko_tests PRIVATE zelko_core zelko_test_options)
