@@ -7,7 +7,6 @@
 #include <iterator>
 
 #include "platform/files/files.h"
-#include "platform/forms/controls.h"
 #include "platform/forms/form.h"
 #include "store/table/cursor.h"
 #include "store/table/itemfile.h"
@@ -65,15 +64,12 @@ std::string placeOfFocus() {
   return toUtf8(form->name()) + (control ? "." + toUtf8(control->fullName()) : "");
 }
 
-// Where the user is, and what stands there: a key that changes any of it is heard.
+// Where the user is, and what stands there: a key that changes any of it is heard. The caret of a box is left out: the
+// reader of the screen follows it.
 std::string stateOfUser() {
   std::string state = placeOfFocus() + " " + std::to_string(curRec) + " " + std::to_string(curItem);
   if (const Control* control = screen().activeControl()) {
     state += " " + toUtf8(control->text()) + " " + std::to_string(control->value());
-    if (control->kind() == ControlKind::textBox || control->kind() == ControlKind::richTextBox) {
-      const auto& box = static_cast<const TextBox&>(*control);
-      state += " " + std::to_string(box.selStart()) + " " + std::to_string(box.selLength());
-    }
   }
   return state;
 }
