@@ -6,9 +6,10 @@
 #include "files/picker/picker.h"
 #include "files/start/help.h"
 #include "files/start/startscreen.h"
+#include "stats/frame/registerframe.h"
 #include "tablejobs/extract/form7.h"
-#include "tablejobs/search/search.h"
 #include "tablejobs/replace/registerreplace.h"
+#include "tablejobs/search/search.h"
 #include "voice/dialogs.h"
 #include "voice/narration.h"
 
@@ -25,6 +26,7 @@ void wireProgram() {
   registerSearch();
   registerExtraction();
   registerReplacement();
+  registerAnalysisFrame();
   narrateMenus();
 }
 

@@ -8,6 +8,7 @@
 #include "editor/moves/commit.h"
 #include "editor/moves/moves.h"
 #include "editor/show/showcell.h"
+#include "parts/ask/typed.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "platform/text/width.h"
@@ -31,45 +32,45 @@ void goToItem(std::int16_t item) {
 
 void goToFirstRecord() {
   MoveScope moving;
-  commitBox();
+  if (!commitBox()) return;
   cacheBase = 1;
   goTo(1, curItem);
 }
 
 void goToLastRecord() {
   MoveScope moving;
-  commitBox();
+  if (!commitBox()) return;
   goTo(std::max(recCount(), 1), curItem);
 }
 
 void goToNewLine() {
   MoveScope moving;
-  commitBox();
+  if (!commitBox()) return;
   goTo(recCount() + 1, curItem);
 }
 
 void goToLastItem() {
   MoveScope moving;
-  commitBox();
+  if (!commitBox()) return;
   goToItem(itemCount);
 }
 
 void goToFirstItem() {
   MoveScope moving;
-  commitBox();
+  if (!commitBox()) return;
   goToItem(firstDataItem());
 }
 
 void goHome() {
   MoveScope moving;
-  commitBox();
+  if (!commitBox()) return;
   cacheBase = 1;
   goTo(1, firstDataItem());
 }
 
 void goToNextRecordStart() {
   MoveScope moving;
-  commitBox();
+  if (!commitBox()) return;
   if (curRec <= recCount()) curItem = firstDataItem();
   nextRec(curItem);
 }
@@ -77,7 +78,8 @@ void goToNextRecordStart() {
 int targetOf(TextView answer, int from, int lowest, int highest) {
   const Text text = trimmed(toHalfWidth(answer));
   const bool relative = text.starts_with(u'+') || text.starts_with(u'-');
-  const double wanted = std::nearbyint(val(text)) + (relative ? from : 0);
+  const double wanted =
+      std::nearbyint(typedVal(text).value_or(text.starts_with(u'-') ? -HUGE_VAL : HUGE_VAL)) + (relative ? from : 0);
   return static_cast<int>(std::clamp<double>(wanted, lowest, std::max(lowest, highest)));
 }
 
@@ -88,7 +90,7 @@ void askRecord() {
   if (trimmed(answer).empty()) return;
   waitPastGate();
   MoveScope moving;
-  commitBox();
+  if (!commitBox()) return;
   goTo(targetOf(answer, curRec, 1, recCount()), curItem);
 }
 
@@ -99,7 +101,7 @@ void askItem() {
   if (trimmed(answer).empty()) return;
   waitPastGate();
   MoveScope moving;
-  commitBox();
+  if (!commitBox()) return;
   goToItem(static_cast<std::int16_t>(targetOf(answer, curItem, 0, itemCount)));
 }
 

@@ -5,6 +5,7 @@
 #include "editor/ranges/rangekeys.h"
 #include "editor/rewrites/rewrites.h"
 #include "editor/rewrites/widthform.h"
+#include "parts/ask/typed.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "platform/text/width.h"
@@ -38,7 +39,7 @@ void runRangeKey(std::int16_t kind, int code) {
   const bool held = rangeKind == kind;
   if (!held) {
     if (rangeKind != 0) dropRangeAndShow();
-    commitBox();
+    if (!commitBox()) return;
     if (kind == kRecords && curRec > recCount()) return host().beep();
     takeCursorAsRange(kind);
   }
@@ -50,7 +51,7 @@ void runRangeKey(std::int16_t kind, int code) {
 
 void insertAtCursor(std::int32_t count) {
   if (rangeKind != 0) dropRangeAndShow();
-  commitBox();
+  if (!commitBox()) return;
   mode = u"insertrecord";
   insertRecords(count, docPath, docDrive);
 }
@@ -66,7 +67,7 @@ void insertMany() {
   const Text answer = talkAsk(u"今の記録の前に、何記録挿入しますか？なおﾌｧｲﾙの長さに応じて時間がかかる場合があります。",
                               u"複数記録挿入", u"1");
   if (trimmed(answer).empty()) return;
-  const double count = val(toHalfWidth(answer));
+  const double count = typedVal(toHalfWidth(answer)).value_or(0);
   if (count < 1 || count > 999999 || count != static_cast<double>(static_cast<std::int32_t>(count)))
     return host().beep();
   insertAtCursor(static_cast<std::int32_t>(count));
@@ -77,7 +78,7 @@ void openWidth(int step) {
   if (viewKind == 1) return showOK(u"個別記録表示中は項目幅変更は出来ません", u"注意");
   if (refusedAsReadOnly()) return;
   if (rangeKind != 0) dropRangeAndShow();
-  commitBox();
+  if (!commitBox()) return;
   changeWidth(step);
 }
 
