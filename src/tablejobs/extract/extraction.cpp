@@ -238,11 +238,15 @@ void Extraction::workOn(bool stopped) {
     const Silence silence;
     controls_.conditions.setFocus();
   }
-  askWhereToWork(message, u"作業終了しました!");
-  if (msgAnswer == kYes) return backToSource();
-  if (msgAnswer != kNo) return stayHere();
-  mode.clear();
-  workInOutput(outputName_, controls_.form);
+  switch (askWhereToWork(message, u"作業終了しました!")) {
+    case WorkIn::source:
+      return backToSource();
+    case WorkIn::again:
+      return stayHere();
+    case WorkIn::output:
+      mode.clear();
+      workInOutput(outputName_, controls_.form);
+  }
 }
 
 void Extraction::fail(bool telling) {
