@@ -57,6 +57,7 @@ Text faultOfComputing(TextView formula) {
 
 Text faultOfNumber(ConditionRow& row) {
   row.value = removeBlanks(narrow(row.value));
+  if (row.value.empty()) return u"比較する数値を入れて下さい";
   Text message;
   checkNumExpression(row.value, message);
   return message.empty() ? faultOfComputing(row.value) : message;
