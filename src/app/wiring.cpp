@@ -6,6 +6,7 @@
 #include "files/picker/picker.h"
 #include "files/start/help.h"
 #include "files/start/startscreen.h"
+#include "tablejobs/replace/registerreplace.h"
 #include "voice/dialogs.h"
 #include "voice/narration.h"
 
@@ -19,6 +20,7 @@ void wireProgram() {
   registerHelp();
   registerTableDesign();
   registerOutputFiles();
+  registerReplacement();
   narrateMenus();
 }
 

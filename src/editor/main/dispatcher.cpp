@@ -235,7 +235,6 @@ bool actOn(const KeyEvent& key) {
     return true;
   }
   if (rangeKind != 0 && finishedRangeKey(key)) return true;
-  if (mode == u"moveitem" || mode == u"moverecord") return false;
   if (key.is('F', shift::Ctrl)) {
     if (rangeKind != 0) flushRec();
     runCommand(u"mnuF");
@@ -260,7 +259,7 @@ bool actOn(const KeyEvent& key) {
 }  // namespace
 
 void inputKeyDown(KeyEvent& key) {
-  if (caretGuard || mode == u"HTYU") return;
+  if (caretGuard) return;
   if (actOn(key)) key.swallow();
 }
 

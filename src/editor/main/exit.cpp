@@ -3,6 +3,7 @@
 #include "editor/main/form1.h"
 #include "store/records/records.h"
 #include "voice/dialogs.h"
+#include "voice/heard.h"
 #include "voice/talk.h"
 
 namespace zelko {
@@ -11,10 +12,8 @@ void leaveProgram() {
   Form1& main = mainForm();
   main.storeNames();
   if (!docPath.empty()) flushRec();
-  if (talkMode != 0) {
-    waitSec(talkGap);
-    talkEnd();
-  }
+  waitPastGate();
+  talkEnd();
   screen().unload(main);
 }
 

@@ -86,7 +86,7 @@ void askRecord() {
       talkAsk(u"第何記録に飛びますか？（なお、＋－付きで数値を指定すると、今の記録からの相対指定になります",
               u"指定記録へ移動", {});
   if (trimmed(answer).empty()) return;
-  waitBehindDialog();
+  waitPastGate();
   MoveScope moving;
   commitBox();
   goTo(targetOf(answer, curRec, 1, recCount()), curItem);
@@ -97,7 +97,7 @@ void askItem() {
       talkAsk(u"第何項目に飛びますか？（なお、＋－付きで数値を指定すると、今の項目からの相対指定になります",
               u"指定項目へ移動", {});
   if (trimmed(answer).empty()) return;
-  waitBehindDialog();
+  waitPastGate();
   MoveScope moving;
   commitBox();
   goToItem(static_cast<std::int16_t>(targetOf(answer, curItem, 0, itemCount)));

@@ -13,12 +13,9 @@
 namespace zelko {
 namespace {
 
-constexpr TextView kChoosingRange = u"HTYU";
-
 void show() { showCell(static_cast<float>(curRec), curItem, u"", u""); }
 
-void clearInputUnless(TextView busy) {
-  if (mode == busy) return;
+void clearInput() {
   emptyInputBox();
   focusInputBox();
 }
@@ -44,12 +41,12 @@ bool advanceToEntryItem() {
 }
 
 // One item on; true where the next record has shown the cell already.
-bool stepItem() {
+bool stepItem(MoveFor what) {
   bool wrapped = allItemsOn == 1 ? ++curItem > itemCount : advanceToEntryItem();
   if (!wrapped) return false;
   if (allItemsOn == 1) curItem = 0;
   std::int32_t before = curRec;
-  nextRec(curItem);
+  nextRec(curItem, what);
   // A refused step has shown nothing, and the item has changed all the same.
   return allItemsOn != 1 && curRec != before;
 }
@@ -63,14 +60,14 @@ void stepBack() {
 
 }  // namespace
 
-void nextItem() {
-  if (stepItem() || mode == kChoosingRange) return;
+void nextItem(MoveFor what) {
+  if (stepItem(what) || what == MoveFor::range) return;
   show();
   dispAll(curItem);
-  clearInputUnless(u"moveitem");
+  clearInput();
 }
 
-void prevItem() {
+void prevItem(MoveFor what) {
   if (--curItem < 0) {
     if (curRec == 1) {
       host().beep();
@@ -78,18 +75,18 @@ void prevItem() {
       return;
     }
     curItem = itemCount;
-    prevRec(curItem);
+    prevRec(curItem, what);
   }
-  if (mode == kChoosingRange) return;
+  if (what == MoveFor::range) return;
   emptyInputBox();
   dispAll(curItem);
   takeRow(curRec);
   show();
-  if (mode != u"moveitem") focusInputBox();
+  focusInputBox();
 }
 
-void nextRec(std::int16_t& item) {
-  bool choosing = mode == kChoosingRange;
+void nextRec(std::int16_t& item, MoveFor what) {
+  const bool choosing = what == MoveFor::range;
   if (!choosing) flushRec();
   std::int32_t count = recCount();
   if (curRec > count) return host().beep();
@@ -105,11 +102,11 @@ void nextRec(std::int16_t& item) {
   }
   dispAll(item);
   show();
-  clearInputUnless(u"moverecord");
+  clearInput();
 }
 
-void prevRec(std::int16_t& item) {
-  bool choosing = mode == kChoosingRange;
+void prevRec(std::int16_t& item, MoveFor what) {
+  const bool choosing = what == MoveFor::range;
   if (!choosing) flushRec();
   if (curRec == 1) return host().beep();
   CacheRow* left = rowOf(curRec);
@@ -124,7 +121,7 @@ void prevRec(std::int16_t& item) {
   }
   dispAll(item);
   show();
-  if (!choosing) clearInputUnless(u"moverecord");
+  if (!choosing) clearInput();
 }
 
 void reloadCur(int keepRange) {

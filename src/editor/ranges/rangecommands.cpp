@@ -14,6 +14,7 @@
 #include "store/table/cursor.h"
 #include "store/table/readonly.h"
 #include "voice/dialogs.h"
+#include "voice/heard.h"
 #include "voice/talk.h"
 
 namespace zelko {
@@ -31,7 +32,7 @@ void rangeUsed() {
 void rangeUsedAndTold() {
   rangeUsed();
   const Form1& main = mainForm();
-  talkLast = 0;
+  nextIsHeard();
   talkReturn(u"", main.txtREC.content(), main.txtItemnum.content());
 }
 

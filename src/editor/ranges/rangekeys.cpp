@@ -28,7 +28,7 @@ int directionOf(int code) { return code == key::Right || code == key::Down ? 1 :
 bool arrowKey(const KeyEvent& key) {
   if (!isUpDown(key.code) && !isLeftRight(key.code)) return false;
   if (rangeKind == 1 && (key.mask == shift::None || key.mask == shift::Ctrl)) {
-    startDataMove(key.mask == shift::Ctrl ? u"move" : u"copy");
+    startDataMove(key.mask == shift::Ctrl);
     return true;
   }
   if (key.mask != shift::None) return false;

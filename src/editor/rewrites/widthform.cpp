@@ -8,6 +8,7 @@
 #include "platform/text/number.h"
 #include "store/records/records.h"
 #include "store/table/cursor.h"
+#include "voice/heard.h"
 #include "voice/narration.h"
 #include "voice/talk.h"
 
@@ -50,7 +51,7 @@ void frmFLN::narrate() {
 void frmFLN::takeFirstStep() {
   const int step = std::exchange(firstStep, 0);
   if (step == 0) return;
-  if (talkMode != 0) waitSec(talkGap);
+  waitPastGate();
   step > 0 ? widenItem(curItem) : narrowItem(curItem);
 }
 

@@ -1,6 +1,7 @@
 #include "editor/show/showcell.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "editor/main/filling.h"
 #include "editor/main/form1.h"
@@ -11,6 +12,7 @@
 #include "platform/text/number.h"
 #include "store/records/records.h"
 #include "store/table/cursor.h"
+#include "voice/talk.h"
 
 namespace zelko {
 namespace {
@@ -30,13 +32,12 @@ void refreshAlwaysShown() {
   if (label) label->setCaption(trimmed(cellOfCur(spItem)));
 }
 
-bool focusBelongsElsewhere() {
-  static constexpr TextView kWords[] = {u"chfln", u"move", u"moveitem",   u"moverecord",
-                                        u"copy",  u"srch", u"narabekaef", u"HTYU"};
-  for (TextView word : kWords) {
-    if (mode == word) return true;
-  }
-  return false;
+// The main form, the views that stand beside it, and what stands there while a command works.
+bool editorHasKeyboard() {
+  static constexpr TextView kBeside[] = {frmSHEET::kName, frmKOJIND::kName, u"frmSPITEM", u"frmAGENT"};
+  const Form* active = screen().activeForm();
+  if (!active || active->name() == Form1::kName || active->liveDuringWork) return true;
+  return std::ranges::find(kBeside, active->name()) != std::end(kBeside);
 }
 
 }  // namespace
@@ -62,13 +63,23 @@ void showCell(float record, float item, TextView preset, TextView) {
   main.Label11.setCaption(entryItemsCaption());
 }
 
-void dispAll(std::int16_t&) {
+void repaintView() {
   if (viewKind == 1) {
     if (auto* card = loadedForm<frmKOJIND>()) card->repaint();
-    return;
+  } else if (auto* sheet = loadedForm<frmSHEET>()) {
+    sheet->repaint();
   }
-  if (auto* sheet = loadedForm<frmSHEET>()) sheet->repaint();
-  if (!focusBelongsElsewhere()) focusInputBox();
+}
+
+void dispAll(std::int16_t&) {
+  repaintView();
+  if (viewKind != 1 && editorHasKeyboard()) focusInputBox();
+}
+
+void showUnheard() {
+  const Silence silence;
+  showCell(static_cast<float>(curRec), curItem, {}, {});
+  repaintView();
 }
 
 void showTitle() {

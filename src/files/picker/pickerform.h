@@ -1,6 +1,7 @@
 // The form of the file picker.
 #pragma once
 
+#include "files/picker/picker.h"
 #include "parts/disk/diskboxes.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
@@ -28,12 +29,15 @@ class frmDISK : public Form {
   RichTextBox Text2{*this, u"Text2"};
   RichTextBox Text3{*this, u"Text3"};
 
-  // Takes on the job that `mode` names: captions, pattern, which buttons there are.
-  void takeJob();
+  // Takes on a job: captions, pattern, which buttons there are.
+  void take(PickFor purpose);
   // The full name of the chosen file, of a table its data file; empty where nothing is selected.
   Text chosenFile() const;
 
+  std::function<void()> onGivenUp;
+
  private:
+  void dress();
   void writeHints();
   void wireLists();
   void wireButtons();
