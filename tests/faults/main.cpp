@@ -102,6 +102,9 @@ class Reference {
     addStates(stage, job.also);
     last_ = addStates(stage, job.script);
   }
+  // Calls before the line "# job": a failure on the way there leads the rest of the script elsewhere.
+  int callsOnTheWay() const { return way_.calls; }
+  int readsOnTheWay() const { return way_.reads; }
   const Run& last() const { return last_; }
   bool worked() const { return last_.status == 0 && (states_.size() > 1 || !sameEnd(before_)); }
 
@@ -136,6 +139,7 @@ class Reference {
       played += line + "\n";
       stage.prepare();
       run = stage.play(played, "none 0");
+      if (line == "# job") way_ = run;
       add(run.files);
     }
     return run;
@@ -189,7 +193,7 @@ class Reference {
 
   const Job& job_;
   Files before_;
-  Run last_;
+  Run last_, way_;
   std::set<std::string> names_{"zlkTalk", "mAgent", "ZLKCLip.bak", "ZLKCLip.for"}, items_, clips_, outputs_;
   std::set<std::pair<std::string, std::string>> states_;
   std::vector<std::set<std::string>> records_;
@@ -227,9 +231,10 @@ void runJob(const Stage& stage, const Job& job, std::size_t every, Count& count)
     return;
   }
   std::vector<std::string> faults;
-  for (int call = 1; call <= reference.last().calls; ++call)
+  for (int call = reference.callsOnTheWay() + 1; call <= reference.last().calls; ++call)
     for (const char* kind : kFaults) faults.push_back(at(kind, call));
-  for (int read = 1; read <= reference.last().reads; ++read) faults.push_back(at("read", read));
+  for (int read = reference.readsOnTheWay() + 1; read <= reference.last().reads; ++read)
+    faults.push_back(at("read", read));
   Count mine;
   for (std::size_t i = 0; i < faults.size(); i += every) {
     const std::string wrong = disturbed(stage, job, reference, faults[i]);
