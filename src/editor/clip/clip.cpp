@@ -213,7 +213,7 @@ void pasteOver() {
   if (refusedAsReadOnly()) return;
   ClipReader clip;
   if (!openedClip(clip, tellNoClip)) return;
-  commitBox();
+  if (!commitBox()) return;
   paste(clip, u"上書き張り付け作業中");
 }
 
@@ -221,7 +221,7 @@ void pasteInsert() {
   if (refusedAsReadOnly()) return;
   const std::int32_t count = recordsToInsert();
   if (count == 0) return;
-  commitBox();
+  if (!commitBox()) return;
   ClipReader clip;
   if (insertRecords(count, docPath, docDrive) && openedClip(clip, tellNoClip)) paste(clip, u"挿入張り付け作業中");
 }
@@ -229,7 +229,7 @@ void pasteInsert() {
 void pasteUndo() {
   if (refusedAsReadOnly()) return;
   if (!askYesNo(u"いちばん最近の貼り付け操作を取り消し,以前の状態に戻します", u".張り付けの取り消し")) return;
-  commitBox();
+  if (!commitBox()) return;
   restoreBackup();
 }
 

@@ -11,14 +11,14 @@ namespace zelko {
 void leaveProgram() {
   Form1& main = mainForm();
   main.storeNames();
-  if (!docPath.empty()) flushRec();
+  if (!docPath.empty() && !flushRec() && storeWasHeldBack()) return;
   waitPastGate();
   talkEnd();
   screen().unload(main);
 }
 
 void askToLeave() {
-  if (!docPath.empty()) flushRec();
+  if (!docPath.empty() && !flushRec() && storeWasHeldBack()) return;
   if (askYesNo(u"データ記入開始時escape入力がありました、Zelko終了しますか？", u"終了の確認")) leaveProgram();
 }
 

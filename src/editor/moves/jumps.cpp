@@ -31,45 +31,45 @@ void goToItem(std::int16_t item) {
 
 void goToFirstRecord() {
   MoveScope moving;
-  commitBox();
+  if (!commitBox()) return;
   cacheBase = 1;
   goTo(1, curItem);
 }
 
 void goToLastRecord() {
   MoveScope moving;
-  commitBox();
+  if (!commitBox()) return;
   goTo(std::max(recCount(), 1), curItem);
 }
 
 void goToNewLine() {
   MoveScope moving;
-  commitBox();
+  if (!commitBox()) return;
   goTo(recCount() + 1, curItem);
 }
 
 void goToLastItem() {
   MoveScope moving;
-  commitBox();
+  if (!commitBox()) return;
   goToItem(itemCount);
 }
 
 void goToFirstItem() {
   MoveScope moving;
-  commitBox();
+  if (!commitBox()) return;
   goToItem(firstDataItem());
 }
 
 void goHome() {
   MoveScope moving;
-  commitBox();
+  if (!commitBox()) return;
   cacheBase = 1;
   goTo(1, firstDataItem());
 }
 
 void goToNextRecordStart() {
   MoveScope moving;
-  commitBox();
+  if (!commitBox()) return;
   if (curRec <= recCount()) curItem = firstDataItem();
   nextRec(curItem);
 }
@@ -88,7 +88,7 @@ void askRecord() {
   if (trimmed(answer).empty()) return;
   waitPastGate();
   MoveScope moving;
-  commitBox();
+  if (!commitBox()) return;
   goTo(targetOf(answer, curRec, 1, recCount()), curItem);
 }
 
@@ -99,7 +99,7 @@ void askItem() {
   if (trimmed(answer).empty()) return;
   waitPastGate();
   MoveScope moving;
-  commitBox();
+  if (!commitBox()) return;
   goToItem(static_cast<std::int16_t>(targetOf(answer, curItem, 0, itemCount)));
 }
 

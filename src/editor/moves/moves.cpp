@@ -21,7 +21,7 @@ void clearInput() {
 }
 
 // The row of a record, where the cache holds it.
-CacheRow* rowOf(std::int32_t record) {
+CacheRow* rowInCache(std::int32_t record) {
   std::int64_t index = std::int64_t{record} - cacheBase + 2;
   if (index < 2 || index >= kCacheRows) return nullptr;
   return &recCache[static_cast<std::size_t>(index)];
@@ -80,18 +80,17 @@ void prevItem(MoveFor what) {
   if (what == MoveFor::range) return;
   emptyInputBox();
   dispAll(curItem);
-  takeRow(curRec);
   show();
   focusInputBox();
 }
 
 void nextRec(std::int16_t& item, MoveFor what) {
   const bool choosing = what == MoveFor::range;
-  if (!choosing) flushRec();
+  if (!choosing && !flushRec() && storeWasHeldBack()) return;
   std::int32_t count = recCount();
   if (curRec > count) return host().beep();
   if (curRec == count) {
-    if (CacheRow* row = rowOf(curRec + 1)) setRow(*row, blankRec);
+    if (CacheRow* row = rowInCache(curRec + 1)) setRow(*row, blankRec);
   }
   ++curRec;
   if (choosing) return;
@@ -107,9 +106,9 @@ void nextRec(std::int16_t& item, MoveFor what) {
 
 void prevRec(std::int16_t& item, MoveFor what) {
   const bool choosing = what == MoveFor::range;
-  if (!choosing) flushRec();
+  if (!choosing && !flushRec() && storeWasHeldBack()) return;
   if (curRec == 1) return host().beep();
-  CacheRow* left = rowOf(curRec);
+  CacheRow* left = rowInCache(curRec);
   if (curRec > recCount() && left && rowBytes(*left) == blankRec) setRow(*left, slashRec);
   // Off the cache there is no row to stamp or to show: the cursor stays.
   if (curRec - 1 < cacheBase) {
@@ -146,7 +145,7 @@ void goTo(std::int32_t record, std::int16_t item) {
 }
 
 void jumpTo(std::int32_t record, std::int16_t item) {
-  commitBox();
+  if (!commitBox()) return;
   goTo(record, item);
 }
 

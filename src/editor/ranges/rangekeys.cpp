@@ -49,7 +49,7 @@ void startRange(int kind) {
   const std::int32_t count = recCount();
   if (curRec > count) return host().beep();
   if (viewKind == 1) return showOK(u"個別記録表示中は範囲の指定は出来ません", u"注意");
-  commitBox();  // the box will be emptied on the way: what was typed belongs to this cell
+  if (!commitBox()) return;  // the box will be emptied on the way: what was typed belongs to this cell
   rangeKind = static_cast<std::int16_t>(kind);
   rangeRec1 = kind == 3 ? 1 : curRec;
   rangeRec2 = kind == 3 ? count : curRec;

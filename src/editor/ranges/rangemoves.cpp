@@ -2,6 +2,7 @@
 
 #include "editor/main/commands.h"
 #include "editor/main/state.h"
+#include "editor/moves/commit.h"
 #include "editor/ranges/range.h"
 #include "editor/ranges/rangekeys.h"
 #include "editor/ranges/targetdialog.h"
@@ -93,6 +94,7 @@ void startItemMove(int direction) {
   if (block.item2 >= itemCount - 2 && block.item1 == 0) return refuseAndDrop();
   const int target = firstItemTarget(block, direction);
   if (target < 0) return host().beep();
+  if (!commitBox()) return;
   moveTo = target;
   curItem = static_cast<std::int16_t>(target);
   pointAtTarget(Pointing::items, {u"moveitem", u"項目の移動", u"項目移動実行(CR)", kMoveItems});
@@ -105,6 +107,7 @@ void startRecordMove(int direction) {
   if (block.rec2 >= count - 2 && block.rec1 == 1) return refuseAndDrop();
   const std::int32_t target = firstRecordTarget(block, count, direction);
   if (target < 0) return host().beep();
+  if (!commitBox()) return;
   moveTo = curRec = target;
   pointAtTarget(Pointing::records, {u"moverecord", u"記録の移動", u"記録移動実行(CR)", kMoveRecords});
 }
@@ -112,6 +115,7 @@ void startRecordMove(int direction) {
 void startDataMove(bool moves) {
   if (refusedAsReadOnly()) return;
   const RangeBlock block = heldBlock();
+  if (!commitBox()) return;
   moveTo = curRec = block.rec1;
   curItem = block.item1;
   if (!moves) return pointAtTarget(Pointing::cellsToCopy, {u"copy", u"ﾃﾞｰﾀｺﾋﾟ-", u"ﾃﾞｰﾀｺﾋﾟ-(CR)", kCopyData});

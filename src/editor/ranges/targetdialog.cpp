@@ -119,7 +119,6 @@ void frmMSSG::moveDataThere() {
 
 void pointAtTarget(Pointing what, const PointingWords& words) {
   mode = words.mode;
-  commitBox();
   autoIdOn = 0;
   loadCache(curRec);
   showUnheard();

@@ -61,10 +61,7 @@ Text frmFLN::sentence() const {
          u"の項目幅操作中です。ｺﾝﾄﾛｰﾙｽﾍﾟｰｽで現在の項目幅縮小、ｼﾌﾄｽﾍﾟｰｽで拡大、CRで確定、エスケープで元通りです。";
 }
 
-void frmFLN::showRuler() {
-  takeRow(curRec);
-  Text1.setText(cellOfCur(curItem));
-}
+void frmFLN::showRuler() { Text1.setText(cellOfRow(rowOf(curRec), curItem)); }
 
 void frmFLN::frmFLN_KeyDown(KeyEvent& key) {
   const bool wider = key.is(key::Space, shift::Shift);

@@ -20,16 +20,16 @@ namespace {
 // Twips of the main form as it is laid out at 100 %.
 constexpr int kFormWidth = 11895, kInputLeft = 1320, kRightMargin = 200;
 
-Text idCaption() {
-  Text id = trimmed(cellOfCur(0));
+Text idCaption(const CacheRow& row) {
+  Text id = trimmed(cellOfRow(row, 0));
   return autoIdOn == 1 ? id + u"(自動更新！)" : id;
 }
 
-void refreshAlwaysShown() {
+void refreshAlwaysShown(const CacheRow& row) {
   if (spItem == kNoItem) return;
   Form* view = screen().loaded(u"frmSPITEM");
   Control* label = view ? view->find(u"Label1") : nullptr;
-  if (label) label->setCaption(trimmed(cellOfCur(spItem)));
+  if (label) label->setCaption(trimmed(cellOfRow(row, spItem)));
 }
 
 // The main form, the views that stand beside it, and what stands there while a command works.
@@ -49,12 +49,11 @@ void showCell(float record, float item, TextView preset, TextView) {
   auto i = static_cast<std::size_t>(item);
   // A single holds no more than 24 bits: the cursor itself is meant where it rounds to the same.
   std::int32_t wanted = record == static_cast<float>(curRec) ? curRec : static_cast<std::int32_t>(record);
-  takeRow(wanted);
-  refreshAlwaysShown();
+  const CacheRow row = rowOf(wanted);
+  refreshAlwaysShown(row);
   main.txtREC.setText(decimal(wanted));
-  takeRow(wanted);
   main.Text1.setText(decimal(itemCount));
-  main.Label13.setCaption(idCaption());
+  main.Label13.setCaption(idCaption(row));
   main.txtItemnum.setText(decimal(static_cast<std::int64_t>(i)));
   main.showItem(static_cast<std::int16_t>(i));
   main.txtinputbox.setWidth(std::min(itemWidth[i] * boxCharTwips, kFormWidth - kInputLeft - kRightMargin));
