@@ -6,6 +6,7 @@
 #include "files/picker/picker.h"
 #include "files/start/help.h"
 #include "files/start/startscreen.h"
+#include "stats/frame/registerframe.h"
 #include "tablejobs/replace/registerreplace.h"
 #include "voice/dialogs.h"
 #include "voice/narration.h"
@@ -21,6 +22,7 @@ void wireProgram() {
   registerTableDesign();
   registerOutputFiles();
   registerReplacement();
+  registerAnalysisFrame();
   narrateMenus();
 }
 
