@@ -45,8 +45,8 @@ std::string brokenRecords(const std::string& bytes) {
 bool isWorkFile(const std::string& name) { return name.ends_with(".QQQ") || name.ends_with(".$$$"); }
 
 bool isKnown(const std::string& name) {
-  static constexpr std::array<std::string_view, 9> names = {"ZLKCLip", "ZLKCLip.bak", "zlkTalk", "mAgent", "zlkHAHAKI",
-                                                            "zlkTEL",  "zlkPORT",     "KEKKA",   "EKKA"};
+  static constexpr std::array<std::string_view, 10> names = {
+      "ZLKCLip", "ZLKCLip.bak", "ZLKCLip.for", "zlkTalk", "mAgent", "zlkHAHAKI", "zlkTEL", "zlkPORT", "KEKKA", "EKKA"};
   if (std::find(names.begin(), names.end(), name) != names.end()) return true;
   return name.ends_with(".txt") || name.ends_with(".TXT");
 }
