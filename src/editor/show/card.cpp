@@ -4,6 +4,7 @@
 
 #include "editor/main/commands.h"
 #include "editor/main/form1.h"
+#include "platform/host.h"
 #include "platform/text/number.h"
 #include "store/records/records.h"
 #include "store/table/cursor.h"
@@ -17,10 +18,12 @@ namespace {
 // The searches, as the main form has them.
 void addSearches(Menu& menu) {
   MenuEntry& bar = menu.add(nullptr, u"mnuschs", u"検索(&E)");
+  menu.add(&bar, u"mnusch", u"検索", key::function(3)).command = [] {
+    recCount() < 1 ? host().beep() : runCommand(u"mnuSEARCH");
+  };
   const auto add = [&](TextView name, TextView command, TextView caption, int code, int mask) {
     menu.add(&bar, name, caption, code, mask).command = [command] { runCommand(command); };
   };
-  add(u"mnusch", u"mnusch", u"検索", key::function(3), shift::None);
   add(u"mnuschN", u"mnuSEARCHN", u"次を検索(&N)", 'N', shift::Ctrl);
   add(u"mnuschP", u"mnuSEARCHP", u"前を検索", 'N', shift::ShiftCtrl);
   add(u"mnuschC", u"mnuSEARCHC", u"検索件数", 'H', shift::ShiftCtrl);

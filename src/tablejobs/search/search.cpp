@@ -52,11 +52,6 @@ bool storedForSearch() {
   return false;
 }
 
-void openFromCard() {
-  if (recCount() < 1) return host().beep();
-  openSearchForm();
-}
-
 // The item of the last search may not be one of the table that is open now.
 SearchSettings settingsForKeys(bool towardsHead) {
   SearchSettings settings = *lastSearch;
@@ -180,7 +175,6 @@ void registerSearch() {
   keyRound.end();
   registerForm<frmSRCH>();
   registerCommand(u"mnuSEARCH", openSearchForm);
-  registerCommand(u"mnusch", openFromCard);
   registerCommand(u"mnuSEARCHN", [] { searchAgain(false); });
   registerCommand(u"mnuSEARCHP", [] { searchAgain(true); });
   registerCommand(u"mnuSEARCHC", tellHitCount);

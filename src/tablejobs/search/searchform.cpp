@@ -28,7 +28,7 @@ frmSRCH::frmSRCH() : Form(kName, u"文字列の検索"), saved_{curRec, curItem}
   mode = u"srch";
   Text1.labelledBy = &Label1;
   Label2.place = Place::sameRow;
-  Label3.place = Command2.place = Place::newRow;
+  Frame1.place = Label3.place = Command2.place = Place::newRow;
   for (CheckBox* box : {&Check1, &Check2, &Check3, &Check4, &Check5}) box->place = Place::newRow;
   Check1.setValue(1);
   Command1.isDefault = true;

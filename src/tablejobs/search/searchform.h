@@ -20,7 +20,8 @@ class frmSRCH : public Form {
   Label Label1{*this, u"Label1", u"検索文字列"};
   TextBox Text1{*this, u"Text1"};
   Button Command1{*this, u"Command1", u"検索"};
-  Frame Frame1{*this, u"Frame1", u"検索条件ﾃﾞﾌｫﾙﾄ(無印)／ｵﾌﾟｼｮﾝ(印あり)"};
+  // A heading: a frame would not wrap its title in large type.
+  Label Frame1{*this, u"Frame1", u"検索条件ﾃﾞﾌｫﾙﾄ(無印)／ｵﾌﾟｼｮﾝ(印あり)"};
   CheckBox Check1{*this, u"Check1", u"検索項目指定／全項目を検索"};
   CheckBox Check2{*this, u"Check2", u"検索文字列を含む場合／一致する場合"};
   CheckBox Check3{*this, u"Check3", u"大小文字無区別／区別"};
