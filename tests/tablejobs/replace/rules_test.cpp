@@ -41,8 +41,8 @@ TEST_CASE("replace: parts and whole cells, by characters and not by bytes") {
   }
   // Codes with two forms and halves of characters beside the hit stay what they were.
   CHECK(replaceCell({.search = u"a", .with = u"b"},
-                      "\xEE\xE0"
-                      "a\x81") ==
+                    "\xEE\xE0"
+                    "a\x81") ==
         "\xEE\xE0"
         "b\x81");
 }
