@@ -6,6 +6,7 @@
 #include "files/picker/picker.h"
 #include "files/start/help.h"
 #include "files/start/startscreen.h"
+#include "stats/correlation/registercorrelation.h"
 #include "stats/frame/registerframe.h"
 #include "tablejobs/replace/registerreplace.h"
 #include "voice/dialogs.h"
@@ -23,6 +24,7 @@ void wireProgram() {
   registerOutputFiles();
   registerReplacement();
   registerAnalysisFrame();
+  registerCorrelation();
   narrateMenus();
 }
 
