@@ -6,6 +6,7 @@
 #include "files/picker/picker.h"
 #include "files/start/help.h"
 #include "files/start/startscreen.h"
+#include "stats/correlation/registercorrelation.h"
 #include "stats/frame/registerframe.h"
 #include "tablejobs/extract/form7.h"
 #include "tablejobs/replace/registerreplace.h"
@@ -27,6 +28,7 @@ void wireProgram() {
   registerExtraction();
   registerReplacement();
   registerAnalysisFrame();
+  registerCorrelation();
   narrateMenus();
 }
 
