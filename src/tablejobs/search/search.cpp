@@ -43,15 +43,6 @@ bool storedTyped() {
   return true;
 }
 
-// The same; false also on a new line that holds nothing: there is no cell to begin at.
-bool storedForSearch() {
-  if (!storedTyped()) return false;
-  if (curRec <= recCount()) return true;
-  host().beep();
-  showOK(u"新規ギョウから検索はできません", u"注意");
-  return false;
-}
-
 // The item of the last search may not be one of the table that is open now.
 SearchSettings settingsForKeys(bool towardsHead) {
   SearchSettings settings = *lastSearch;
@@ -90,6 +81,14 @@ Text countSentence(const HitCount& count) {
 }
 
 }  // namespace
+
+bool storedForSearch() {
+  if (!storedTyped()) return false;
+  if (curRec <= recCount()) return true;
+  host().beep();
+  showOK(u"新規ギョウから検索はできません", u"注意");
+  return false;
+}
 
 Scan SearchRound::next(const SearchSettings& settings, TextView work, const std::function<bool(CellAt)>& onRecord) {
   const CellAt cursor = {curRec, curItem};
