@@ -4,18 +4,34 @@
 #include "editor/formulas/formulaform.h"
 #include "editor/guides/guides.h"
 #include "editor/main/cellcommands.h"
+#include "editor/main/form1.h"
 #include "editor/main/speechmenu.h"
 #include "editor/moves/entryitems.h"
 #include "editor/moves/jumps.h"
+#include "editor/moves/moves.h"
 #include "editor/ranges/range.h"
 #include "editor/rewrites/rewrites.h"
 #include "editor/show/itemlist.h"
 #include "editor/show/spitem.h"
 #include "editor/show/view.h"
+#include "parts/job/editorhooks.h"
 
 namespace zelko {
 
+namespace {
+
+void registerHooks() {
+  editorHooks.storeTyped = [](bool box) {
+    if (box) commitBox();
+    if (Form1* main = loadedForm<Form1>()) main->storeNames();
+  };
+  editorHooks.reload = [](bool keepRange) { reloadCur(keepRange ? 1 : 0); };
+}
+
+}  // namespace
+
 void registerEditor() {
+  registerHooks();
   registerEditorForms();
   registerCellCommands();
   registerClip();

@@ -90,23 +90,34 @@ void formulaKey(int code) {
   fillHeard(digits);
 }
 
+CellRules frmFOMULA::cellRules() {
+  CellRules rules;
+  rules.firstCol = rules.lastCol = kFormulaColumn;
+  rules.left = CellLeft::dropped;
+  rules.rowsChange = rules.growsOnEnter = false;
+  rules.walksGrid = true;
+  return rules;
+}
+
 frmFOMULA::frmFOMULA() : Form(kName, u"式値入力登録画面") {
-  Grid1.setCols(kFormulaColumn + 1);
-  Grid1.setRows(kLastRow + 1);
-  Grid1.setCellText(0, kKeyColumn, u"ｷｰ操作");
-  Grid1.setCellText(0, kFormulaColumn, u" 式 ");
-  for (int row = 1; row <= kLastRow; ++row) {
-    Grid1.setCellText(row, kKeyColumn, u"ctrl+" + decimal(row - 1));
-    Grid1.setCellText(row, kFormulaColumn, row < kFirstFreeRow ? kFixedRows[row - 1] : formulaSlot[slotOfRow(row)]);
-  }
-  Grid1.setCell(firstRowWithoutFormula(), kFormulaColumn);
-  fillBox();
+  cells_.reshape([this] {
+    Grid1.setCols(kFormulaColumn + 1);
+    Grid1.setRows(kLastRow + 1);
+    Grid1.setCellText(0, kKeyColumn, u"ｷｰ操作");
+    Grid1.setCellText(0, kFormulaColumn, u" 式 ");
+    for (int row = 1; row <= kLastRow; ++row) {
+      Grid1.setCellText(row, kKeyColumn, u"ctrl+" + decimal(row - 1));
+      Grid1.setCellText(row, kFormulaColumn, row < kFirstFreeRow ? kFixedRows[row - 1] : formulaSlot[slotOfRow(row)]);
+    }
+    Grid1.setCell(firstRowWithoutFormula(), kFormulaColumn);
+  });
+  cells_.on.sentence = [this](int, int) { return rowSentence(); };
+  cells_.on.stored = [](int, int, const Text& typed) { return trimmed(withoutLineEnds(typed)); };
+  // The rows of the fixed keys refuse every change, whichever way it came.
+  cells_.on.refusal = [](int row, int) { return row < kFirstFreeRow ? Text(kReminder) : Text(); };
+  cells_.on.onStored = [this](int row, int col) { formulaSlot[slotOfRow(row)] = Grid1.cell(row, col); };
   onKeyDown = [this](KeyEvent& key) { frmFOMULA_KeyDown(key); };
   onActivate = [this] { talkGated(caption() + markStop + rowSentence()); };
-  Text1.onKeyDown = [this](KeyEvent& key) { frmFOMULA_Text1_KeyDown(key); };
-  Text1.onKeyPress = [this](CharEvent& event) { frmFOMULA_Text1_KeyPress(event); };
-  Text1.onChange = [this] { frmFOMULA_Text1_Change(); };
-  Grid1.onRowColChange = [this] { frmFOMULA_Grid1_RowColChange(); };
   Grid1.onDblClick = [this] { Text1.setFocus(); };
   Command1.onClick = [this] { frmFOMULA_Command1_Click(); };
   Command1.isCancel = true;
@@ -128,55 +139,6 @@ void frmFOMULA::frmFOMULA_KeyDown(KeyEvent& key) {
   key.swallow();
   listCaller = kListCode;
   showItemList();
-}
-
-void frmFOMULA::frmFOMULA_Text1_KeyDown(KeyEvent& key) {
-  if (!key.is(key::Up, shift::None) && !key.is(key::Down, shift::None)) return;
-  step(key.code == key::Up ? -1 : 1);
-  key.swallow();
-}
-
-void frmFOMULA::frmFOMULA_Text1_KeyPress(CharEvent& event) {
-  if (event.ch != key::Enter) return;
-  event.ch = 0;
-  storeFormula();
-}
-
-// The rows of the fixed keys refuse every change, whichever way it came.
-void frmFOMULA::frmFOMULA_Text1_Change() {
-  if (filling_) return;
-  if (Grid1.row() >= kFirstFreeRow) return talkRichChange(Text1, previous_);
-  fillBox();
-  talkGated(kReminder);
-}
-
-void frmFOMULA::frmFOMULA_Grid1_RowColChange() {
-  fillBox();
-  talkGated(rowSentence());
-}
-
-void frmFOMULA::step(int rows) {
-  const int row = Grid1.row() + rows;
-  if (row < 1 || row > kLastRow) return host().beep();
-  Grid1.setRow(row);
-}
-
-void frmFOMULA::storeFormula() {
-  const int row = Grid1.row();
-  if (row >= kFirstFreeRow) {
-    formulaSlot[slotOfRow(row)] = trimmed(Text1.content());
-    Grid1.setCellText(row, kFormulaColumn, formulaSlot[slotOfRow(row)]);
-  }
-  if (row < kLastRow) return step(1);
-  frmFOMULA_Grid1_RowColChange();
-}
-
-void frmFOMULA::fillBox() {
-  filling_ = true;
-  previous_ = Grid1.cell(Grid1.row(), kFormulaColumn);
-  Text1.setText(previous_);
-  Text1.moveCaretToEnd();
-  filling_ = false;
 }
 
 void frmFOMULA::addItem(int item) {

@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "parts/grid/celleditor.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
 #include "platform/forms/grid.h"
@@ -30,18 +31,11 @@ class frmFOMULA : public Form {
 
  private:
   void frmFOMULA_KeyDown(KeyEvent& key);
-  void frmFOMULA_Text1_KeyDown(KeyEvent& key);
-  void frmFOMULA_Text1_KeyPress(CharEvent& event);
-  void frmFOMULA_Text1_Change();
-  void frmFOMULA_Grid1_RowColChange();
   void frmFOMULA_Command1_Click();
-  void step(int rows);
-  void storeFormula();
-  void fillBox();
+  static CellRules cellRules();
   Text rowSentence() const;
 
-  Text previous_;         // the box before the last change
-  bool filling_ = false;  // the box is being changed by the form
+  CellEditor cells_{Grid1, Text1, nullptr, cellRules()};
 };
 
 void registerFormulas();

@@ -1,7 +1,6 @@
 #include "files/design/designcheck.h"
 
 #include <algorithm>
-#include <iterator>
 
 #include "editor/rewrites/realign.h"
 #include "platform/text/number.h"
@@ -88,8 +87,8 @@ std::vector<Cell> cellsOf(const std::vector<ItemLine>& items) {
 
 }  // namespace
 
-std::optional<DesignFault> faultOfCell(DesignColumn column, TextView typed) {
-  const auto fault = [](TextView said, TextView text) { return DesignFault{said, Text(text), Text(kFaultOfCell)}; };
+std::optional<CellFault> faultOfCell(DesignColumn column, TextView typed) {
+  const auto fault = [](TextView said, TextView text) { return CellFault{said, Text(text), Text(kFaultOfCell)}; };
   if (column == DesignColumn::name && typed.size() > kLongestName)
     return fault(u"再入力、項目名は254文字以内。", u"項目名は254文字以内に押さえて下さい");
   if (column == DesignColumn::side && !isSide(typed))
@@ -107,12 +106,6 @@ Text storedCell(DesignColumn column, TextView typed) {
   return withoutLineEnds(typed);
 }
 
-Text withoutLineEnds(TextView typed) {
-  Text line;
-  std::ranges::copy_if(typed, std::back_inserter(line), [](char16_t ch) { return ch != u'\r' && ch != u'\n'; });
-  return line;
-}
-
 Text digitsOf(TextView typed) {
   Text digits;
   for (const char16_t ch : toHalfWidth(typed)) {
@@ -124,10 +117,10 @@ Text digitsOf(TextView typed) {
 TypedCount typedCount(TextView typed) {
   const Text number = trimmed(toHalfWidth(typed));
   if (isBlank(number)) return {};
-  if (!isDigits(number)) return {{}, DesignFault{{}, u"項目数は0以上でなければいけません。", u"項目数不適当"}};
+  if (!isDigits(number)) return {{}, CellFault{{}, u"項目数は0以上でなければいけません。", u"項目数不適当"}};
   const int count = numberOf(number);
   if (count > recLen) {
-    return {{}, DesignFault{{}, u"項目数は" + decimal(recLen) + u"以下でなければいけません。", u"項目数多すぎる"}};
+    return {{}, CellFault{{}, u"項目数は" + decimal(recLen) + u"以下でなければいけません。", u"項目数多すぎる"}};
   }
   return {count, {}};
 }

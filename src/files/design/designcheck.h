@@ -4,6 +4,7 @@
 #include <optional>
 #include <vector>
 
+#include "parts/grid/cellfault.h"
 #include "platform/text/text.h"
 #include "store/rewrite/rewriteplan.h"
 #include "store/table/description.h"
@@ -19,25 +20,17 @@ struct DesignRow {
 // Columns of the grid.
 enum class DesignColumn { number = 0, name = 1, side = 2, width = 3 };
 
-struct DesignFault {
-  TextView said;  // in short, while the dialog opens; empty for a fault that has no short form
-  Text text, title;
-};
-
 // Why a cell can't be left as it is.
-std::optional<DesignFault> faultOfCell(DesignColumn column, TextView typed);
+std::optional<CellFault> faultOfCell(DesignColumn column, TextView typed);
 // A cell as it is stored: a side is "L" or "R" in half width, a name has no line end.
 Text storedCell(DesignColumn column, TextView typed);
 // A width cell takes half-width digits only; full-width ones are brought to half width.
 Text digitsOf(TextView typed);
 
-// Without the line ends that the clipboard may bring: every box of the design holds one line.
-Text withoutLineEnds(TextView typed);
-
 // The item count as it was typed; nothing for a blank box, beyond any limit for what is no number that can be.
 struct TypedCount {
   std::optional<int> count;
-  std::optional<DesignFault> fault;
+  std::optional<CellFault> fault;
 };
 TypedCount typedCount(TextView typed);
 

@@ -49,9 +49,9 @@ bool mayReplaceDesign(const Text& dataFile) {
 // --- 決定 ------------------------------------------------------------------------------------------------------
 
 void frmDESIGN::frmDESIGN_Command1_Click() {
-  if ((cellChanged() && !storeCell()) || !applyCount()) return;
+  if (!cells_.store() || !applyCount()) return;
   const Text typed = tableNameTyped(text3.content());
-  if (typed.empty()) return tell({{}, u"ﾌｧｲﾙ名がありません。ﾌｧｲﾙ名は？", u"ﾌｧｲﾙ名なし"}, text3);
+  if (typed.empty()) return tellCellFault({{}, u"ﾌｧｲﾙ名がありません。ﾌｧｲﾙ名は？", u"ﾌｧｲﾙ名なし"}, text3);
   const std::vector<DesignRow> design = rows();
   const Text memo = trimmed(text2.content());
   if (const Text faults = faultsOfTable(text1.content(), memo, design); !faults.empty())
@@ -160,7 +160,7 @@ bool frmDESIGN::readKToDesign(TextView path, TextView drive) {
     tellFailure(u"Zelkoﾌｧｲﾙでないか、項目設定を記述したﾌｧｲﾙが不良です", u"項目ﾌｧｲﾙ読込エラー");
     return false;
   }
-  fill(table.items);
+  cells_.reshape([&] { fill(table.items); });
   // The place alone tells which item of the open table a row was.
   const int inTable = changesTable_ ? itemCount : -1;
   for (int item = 0; item <= highest(); ++item) oldItems_[static_cast<std::size_t>(item)] = item <= inTable ? item : -1;
@@ -180,7 +180,7 @@ void frmDESIGN::frmDESIGN_Command3_Click() {
   closeReference();
   {
     const Silence silence;
-    moveTo(1, DesignColumn::name);
+    cells_.enter(1, static_cast<int>(DesignColumn::name));
   }
   talkS(*this, report + cellSentence());
 }

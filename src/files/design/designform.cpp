@@ -7,6 +7,7 @@
 #include "store/rewrite/rewrite.h"
 #include "store/table/cursor.h"
 #include "store/table/itemfile.h"
+#include "voice/dialogs.h"
 #include "voice/names.h"
 #include "voice/narration.h"
 #include "voice/talk.h"
@@ -29,9 +30,11 @@ constexpr TextView kCountHelp =
 }  // namespace
 
 frmDESIGN::frmDESIGN() : Form(kName, u"項目区切りの設定") {
-  setHeadings();
   changesTable_ = mode == u"tdesign" && !docPath.empty();
-  changesTable_ ? startFromTable() : startNew();
+  cells_.reshape([this] {
+    setHeadings();
+    changesTable_ ? startFromTable() : startNew();
+  });
   boxes_.open(docPath.empty() ? appDir : besideTable({}));
   wireBoxes();
   wireCells();
@@ -44,7 +47,7 @@ frmDESIGN::frmDESIGN() : Form(kName, u"項目区切りの設定") {
     if (mode == u"SVCread") mode.clear();
   };
   narrate();
-  moveTo(1, DesignColumn::name);
+  cells_.enter(1, static_cast<int>(DesignColumn::name));
   itemin.setFocus();
 }
 
@@ -86,10 +89,10 @@ void frmDESIGN::wireBoxes() {
   text3.onChange = [this] { frmDESIGN_box_Change(text3, lastFile_); };
   for (RichTextBox* box : {&text1, &text2, &text3})
     box->onKeyDown = [this, box](KeyEvent& key) { frmDESIGN_box_KeyDown(*box, key); };
-  // Typing replaces the number, the name and the cell, and goes on behind the memo.
-  for (RichTextBox* box : {&text1, &text3, &itemin}) {
+  // Typing replaces the number and the name, and goes on behind the memo.
+  for (RichTextBox* box : {&text1, &text3}) {
     box->onGotFocus = [this, box] {
-      box->setSelection(0, static_cast<int>(box->content().size()));
+      markWhole(*box);
       marked_ = true;
     };
   }
@@ -102,13 +105,23 @@ void frmDESIGN::wireBoxes() {
 
 void frmDESIGN::wireCells() {
   itemin.labelledBy = &Label3;
-  itemin.onKeyDown = [this](KeyEvent& key) { frmDESIGN_itemin_KeyDown(key); };
-  itemin.onKeyPress = [this](CharEvent& event) { frmDESIGN_itemin_KeyPress(event); };
-  itemin.onChange = [this] { frmDESIGN_itemin_Change(); };
-  itemin.onLostFocus = [this] { frmDESIGN_itemin_LostFocus(); };
-  Label9.onClick = [this] { frmDESIGN_Label9_Click(); };
-  Grid1.tabStop = false;
-  Grid1.onRowColChange = [this] { frmDESIGN_Grid1_RowColChange(); };
+  const auto columnOf = [](int col) { return static_cast<DesignColumn>(col); };
+  cells_.on.sentence = [this](int, int) { return cellSentence(); };
+  cells_.on.fault = [=](int, int col, const Text& typed) { return faultOfCell(columnOf(col), typed); };
+  cells_.on.stored = [=](int, int col, const Text& typed) { return storedCell(columnOf(col), typed); };
+  cells_.on.typable = [=](int col, TextView typed) {
+    return columnOf(col) == DesignColumn::width ? digitsOf(typed) : Text(typed);
+  };
+  cells_.on.onAdded = [this](int row) {
+    oldItems_.push_back(-1);
+    setRow(row - 1, addedRow(row - 1));
+    showCount();
+  };
+  cells_.on.onInserted = [this](int row) { return rowInserted(row - 1); };
+  cells_.on.onDeleted = [this](int row) { return rowDeleted(row - 1); };
+  cells_.on.onEnd = [] {
+    showOK(u"設定された項目数の記入を終えました。項目数を増やす場合は↓を押してください", u"項目数の増加");
+  };
 }
 
 void frmDESIGN::wireReference() {
@@ -159,17 +172,17 @@ void frmDESIGN::frmDESIGN_Activate() {
 }
 
 void frmDESIGN::frmDESIGN_box_Change(RichTextBox& box, Text& previous) {
-  if (moving_) {
+  if (filling_) {
     previous = box.content();
     return;
   }
   if (const Text line = withoutLineEnds(box.content()); line != box.content()) {
-    moving_ = true;
+    filling_ = true;
     const Text before = previous;
     box.setText(line);
     box.moveCaretToEnd();
     previous = before;
-    moving_ = false;
+    filling_ = false;
   }
   sayChange(box, previous);
 }

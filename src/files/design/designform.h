@@ -5,6 +5,7 @@
 
 #include "files/design/designcheck.h"
 #include "files/picker/pickerboxes.h"
+#include "parts/grid/celleditor.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
 #include "platform/forms/grid.h"
@@ -57,44 +58,30 @@ class frmDESIGN : public Form {
   void frmDESIGN_Activate();
   void frmDESIGN_box_Change(RichTextBox& box, Text& previous);
   void sayChange(const RichTextBox& box, Text& previous);
-  static bool isWholeMarked(const TextBox& box);
   void frmDESIGN_box_KeyDown(RichTextBox& box, KeyEvent& key);
   void frmDESIGN_text1_LostFocus();
-  void frmDESIGN_itemin_KeyDown(KeyEvent& key);
-  void frmDESIGN_itemin_KeyPress(CharEvent& event);
-  void frmDESIGN_itemin_Change();
-  void frmDESIGN_itemin_LostFocus();
-  void frmDESIGN_Label9_Click();
-  void frmDESIGN_Grid1_RowColChange();
   void frmDESIGN_File1_Click();
   void frmDESIGN_Command1_Click();
   void frmDESIGN_Command2_Click();
   void frmDESIGN_Command3_Click();
 
   // The writing cell.
-  int item() const { return Grid1.row() - 1; }
+  static CellRules cellRules();
+  int item() const { return cells_.row() - 1; }
   int highest() const { return Grid1.rows() - 2; }
-  DesignColumn column() const { return static_cast<DesignColumn>(Grid1.col()); }
   Text cellSentence() const;
-  void showWritingCell();
-  void moveTo(int row, DesignColumn column);
-  void moveOn();
-  void moveBack();
-  void moveRow(int direction);
-  bool cellChanged() const;
-  bool storeCell();  // false after the dialog of a wrong value
-  void tell(const DesignFault& fault, TextBox& back);
+  Text rowInserted(int item);
+  Text rowDeleted(int item);
 
   // The shape of the grid.
   void setHeadings();
   void setRow(int item, const DesignRow& row);
   DesignRow row(int item) const;
+  static DesignRow addedRow(int item);
   void setItems(int highest);
   void fill(const std::vector<ItemLine>& items);
   bool applyCount();
   void showCount();
-  void deleteRow();
-  void insertRow();
 
   // What 決定 does.
   bool changesOpenTable(const Text& dataFile) const;
@@ -110,14 +97,14 @@ class frmDESIGN : public Form {
   Text shapeOfChosen() const;
 
   DiskBoxes boxes_{Drive1, Dir1, File1};
-  std::vector<int> oldItems_;                        // of each row: the item of the open table that it was, or -1
-  Text presetFile_;                                  // the file box as it was at the start
-  Text lastCount_, lastMemo_, lastFile_, lastCell_;  // the boxes at their last change
-  bool changesTable_ = false;                        // the design of the open table is being changed
-  bool opened_ = false;                              // the opening sentence is said
-  bool overwrite_ = false;                           // typing replaces the character at the caret
-  bool marked_ = false;                              // the whole text of the box is marked: what is typed replaces it
-  bool moving_ = false;                              // the program moves the cell of the grid or fills a box
+  CellEditor cells_{Grid1, itemin, &Label9, cellRules()};
+  std::vector<int> oldItems_;             // of each row: the item of the open table that it was, or -1
+  Text presetFile_;                       // the file box as it was at the start
+  Text lastCount_, lastMemo_, lastFile_;  // the boxes at their last change
+  bool changesTable_ = false;             // the design of the open table is being changed
+  bool opened_ = false;                   // the opening sentence is said
+  bool marked_ = false;                   // the whole text of the box is marked: what is typed replaces it
+  bool filling_ = false;                  // the program fills a box
 };
 
 }  // namespace zelko

@@ -159,6 +159,20 @@ Text fromSjis(std::string_view bytes) {
   return Text(begin, decodeInto(bytes, begin));
 }
 
+std::vector<std::size_t> characterStarts(std::string_view bytes) {
+  std::vector<std::size_t> starts;
+  starts.reserve(bytes.size() + 1);
+  std::size_t at = 0;
+  while (at < bytes.size()) {
+    starts.push_back(at);
+    const bool pair = isLead(static_cast<unsigned char>(bytes[at])) && at + 1 < bytes.size() &&
+                      isTrail(static_cast<unsigned char>(bytes[at + 1]));
+    at += pair ? 2 : 1;
+  }
+  starts.push_back(at);
+  return starts;
+}
+
 std::string toSjis(TextView text) {
   Scratch<char> scratch(2 * text.size());
   char* const begin = scratch.begin();

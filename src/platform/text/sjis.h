@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/text/text.h"
 
@@ -14,6 +15,9 @@ namespace zelko {
 // and that byte is read anew, so that a line end or a comma behind half a character is never swallowed.
 Text fromSjis(std::string_view bytes);
 
+// Where each character of fromSjis(bytes) begins, and behind the last one the length: one more than there are
+// characters.
+std::vector<std::size_t> characterStarts(std::string_view bytes);
 // Never fails: a character without a code becomes "?", also one that takes two units. Of several codes for one
 // character the usual one is chosen (JIS first, then row 13, then FA..FC, never ED and EE). U+301C, U+2016,
 // U+2212, U+2014, U+00A2, U+00A3, U+00A5, U+00AC and U+203E go to the code of their twin.

@@ -25,4 +25,10 @@ Text toHalfWidth(TextView text) {
   return result;
 }
 
+Text removeBlanks(TextView text) {
+  Text result(text);
+  std::erase_if(result, [](char16_t ch) { return ch == u' ' || ch == u'　'; });
+  return result;
+}
+
 }  // namespace zelko

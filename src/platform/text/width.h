@@ -7,5 +7,7 @@ namespace zelko {
 
 // Digits, letters, the common signs, the ideographic blank and the Japanese punctuation; everything else stays.
 Text toHalfWidth(TextView text);
+// Trimmed, and without any half-width or ideographic blank inside.
+Text removeBlanks(TextView text);
 
 }  // namespace zelko

@@ -1,0 +1,7 @@
+#include "parts/job/editorhooks.h"
+
+namespace zelko {
+
+EditorHooks editorHooks;
+
+}  // namespace zelko
