@@ -3,11 +3,11 @@
 set -euo pipefail
 cd "$(dirname "$0")/../src"
 
-# The floor of a file by its place; voice/ stands on two floors, the sentences about cells above the store.
+# The floor of a file by its place.
 floor_of() {
   case $1 in
     platform/* | speech/* | stats/numbers/*) echo 1 ;;
-    voice/cells* | parts/*) echo 4 ;;
+    parts/*) echo 4 ;;
     voice/*) echo 2 ;;
     store/*) echo 3 ;;
     editor/*) echo 5 ;;

@@ -6,21 +6,29 @@
 #include "editor/main/cellcommands.h"
 #include "editor/main/form1.h"
 #include "editor/main/speechmenu.h"
+#include "editor/moves/commit.h"
 #include "editor/moves/entryitems.h"
 #include "editor/moves/jumps.h"
 #include "editor/moves/moves.h"
 #include "editor/ranges/range.h"
 #include "editor/rewrites/rewrites.h"
 #include "editor/show/itemlist.h"
+#include "editor/show/showcell.h"
 #include "editor/show/spitem.h"
 #include "editor/show/view.h"
+#include "parts/cells.h"
 #include "parts/job/editorhooks.h"
+#include "store/table/mainform.h"
+#include "voice/cellhooks.h"
 
 namespace zelko {
 
 namespace {
 
+// What the lower floors ask of the editor.
 void registerHooks() {
+  mainFormHooks = {showTitle, showMark};
+  cellHooks = {talkCell, talkRange, showItemList};
   editorHooks.storeTyped = [](bool box) {
     if (box) commitBox();
     if (Form1* main = loadedForm<Form1>()) main->storeNames();

@@ -100,7 +100,7 @@ void frmTin::frmTin_Text1_GotFocus() {
 void frmTin::frmTin_KeyDown(KeyEvent& key) {
   if (!key.is(key::letter('L'), shift::Ctrl)) return;
   key.swallow();
-  showItemList();
+  cellHooks.showItemList();
 }
 
 void frmTin::close(TextView answer) {

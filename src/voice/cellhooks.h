@@ -1,12 +1,16 @@
-// Where the user is, said from every form; spoken by the floor that knows the table.
+// What the keys that every form answers need to know of the open table. The wiring registers it; until then nothing
+// is said.
 #pragma once
+
+#include <functional>
 
 namespace zelko {
 
-void talkCell();   // the current cell
-void talkRange();  // the current record, or the held stretch of items
-
-// The item list of the open table, which a spoken input box offers; does nothing but beep without a table.
-void showItemList();
+struct CellHooks {
+  std::function<void()> talkCell = [] {};      // Alt+N: the current cell
+  std::function<void()> talkRange = [] {};     // Alt+M: the current record, or the held stretch of items
+  std::function<void()> showItemList = [] {};  // Ctrl+L in a spoken input box: the items of the open table
+};
+extern CellHooks cellHooks;
 
 }  // namespace zelko

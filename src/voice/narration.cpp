@@ -33,10 +33,10 @@ bool isExplainKey(const KeyEvent& key) {
 // The keys that every form answers wherever its focus is.
 void answerFormKeys(KeyEvent& key) {
   if (key.is(key::letter('N'), shift::Alt)) {
-    talkCell();
+    cellHooks.talkCell();
     key.swallow();
   } else if (key.is(key::letter('M'), shift::Alt)) {
-    talkRange();
+    cellHooks.talkRange();
     key.swallow();
   } else if (key.is(key::Insert, shift::Ctrl)) {
     Text copied;

@@ -45,8 +45,6 @@ Heard EditorFixture::heard() {
   return lines;
 }
 
-Form1& mainForm() { return form<Form1>(); }
-
 std::string utf8(TextView text) { return toUtf8(text); }
 
 }  // namespace zelko::test

@@ -33,7 +33,6 @@ class EditorFixture : public Fixture {
   static constexpr std::string_view kTable = "t.txt";
 };
 
-Form1& mainForm();
 std::string utf8(TextView text);
 
 }  // namespace zelko::test

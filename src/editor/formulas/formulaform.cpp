@@ -5,17 +5,16 @@
 
 #include "editor/formulas/formula.h"
 #include "editor/main/commands.h"
-#include "editor/main/form1.h"
+#include "editor/main/inputbox.h"
 #include "editor/main/state.h"
-#include "editor/moves/moves.h"
 #include "editor/show/itemlist.h"
+#include "editor/show/showcell.h"
 #include "platform/fault.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "platform/text/sjis.h"
 #include "store/table/cursor.h"
 #include "store/table/table.h"
-#include "voice/cellhooks.h"
 #include "voice/dialogs.h"
 #include "voice/names.h"
 #include "voice/narration.h"
@@ -73,7 +72,7 @@ void registerKeyFormulas() {
   form<frmFOMULA>().showModal();
   dispAll(curItem);
   // What was being typed stays in the box.
-  const Text typed = form<Form1>().txtinputbox.content();
+  const Text typed = inputText();
   showCell(static_cast<float>(curRec), curItem, typed, {});
 }
 

@@ -1,10 +1,11 @@
+#include "editor/formulas/sums.h"
+
 #include <algorithm>
 
 #include "editor/formulas/formulaform.h"
 #include "editor/main/commands.h"
+#include "editor/main/inputbox.h"
 #include "editor/main/state.h"
-#include "editor/moves/moves.h"
-#include "editor/moves/utilities.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "platform/text/sjis.h"

@@ -1,8 +1,8 @@
 #include "editor/guides/guides.h"
 
 #include "editor/main/commands.h"
-#include "editor/main/form1.h"
-#include "editor/moves/moves.h"
+#include "editor/main/inputbox.h"
+#include "editor/show/showcell.h"
 #include "store/table/cursor.h"
 #include "voice/narration.h"
 #include "voice/talk.h"
@@ -40,7 +40,7 @@ void Guide::row(const GuideRow& row) {
 }
 
 void Guide::goBack() {
-  form<Form1>().txtinputbox.setFocus();
+  focusInputBox();
   showCell(static_cast<float>(curRec), curItem, {}, {});
   dispAll(curItem);
 }

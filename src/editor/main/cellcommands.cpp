@@ -3,18 +3,22 @@
 #include "editor/main/commands.h"
 #include "editor/main/exit.h"
 #include "editor/main/form1.h"
+#include "editor/main/inputbox.h"
 #include "editor/main/speechmenu.h"
 #include "editor/main/state.h"
 #include "editor/moves/commit.h"
+#include "editor/moves/idauto.h"
 #include "editor/moves/jumps.h"
+#include "editor/moves/limit.h"
 #include "editor/moves/moves.h"
-#include "editor/moves/utilities.h"
+#include "editor/rewrites/shifts.h"
 #include "editor/show/itemlist.h"
+#include "editor/show/showcell.h"
+#include "parts/cells.h"
 #include "platform/host.h"
 #include "platform/text/daytime.h"
 #include "store/table/cursor.h"
-#include "store/table/itemfile.h"
-#include "voice/cells.h"
+#include "store/table/readonly.h"
 #include "voice/dialogs.h"
 #include "voice/talk.h"
 
@@ -50,7 +54,7 @@ constexpr const char16_t* kHowToMove =
 
 void copyCellToBox() {
   fillInputBox(currentCell());
-  form<Form1>().txtinputbox.setFocus();
+  focusInputBox();
 }
 
 void clearCell() {
@@ -69,7 +73,7 @@ void registerCellCommands() {
   registerCommand(u"mnuSLEFT", [] { shiftData(shiftLeft, u"ﾃﾞｰﾀｶﾞｲﾁｺｳﾓｸﾋﾀﾞﾘｼﾌﾄｼﾏｼﾀ"); });
   registerCommand(u"mnuIDAUTO", idAuto);
   registerCommand(u"mnuLIMIT", setLimit);
-  registerCommand(u"mnuRL", [] { form<Form1>().txtLR.setFocus(); });
+  registerCommand(u"mnuRL", [] { mainForm().txtLR.setFocus(); });
   registerCommand(u"mnuFbt", toggleReadOnly);
   registerCommand(u"mnuEND", leaveProgram);
   registerCommand(u"mnuITEMINS", [] { showOK(kHowToInsert, u"項目の挿入の仕方"); });

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "editor/formulas/sums.h"
 #include "editor/main/commands.h"
 #include "editor/main/exit.h"
 #include "editor/main/form1.h"
@@ -10,15 +11,16 @@
 #include "editor/main/state.h"
 #include "editor/moves/commit.h"
 #include "editor/moves/jumps.h"
+#include "editor/moves/limit.h"
 #include "editor/moves/moves.h"
-#include "editor/moves/utilities.h"
 #include "editor/ranges/rangekeys.h"
 #include "editor/show/sheet.h"
+#include "editor/show/showcell.h"
+#include "parts/cells.h"
 #include "platform/host.h"
 #include "store/records/records.h"
 #include "store/table/cursor.h"
-#include "store/table/itemfile.h"
-#include "voice/cells.h"
+#include "store/table/readonly.h"
 #include "voice/dialogs.h"
 #include "voice/talk.h"
 
@@ -26,7 +28,7 @@ namespace zelko {
 
 namespace {
 
-TextBox& box() { return form<Form1>().txtinputbox; }
+TextBox& box() { return mainForm().txtinputbox; }
 bool boxIsBlank() { return trimmed(box().content()).empty(); }
 
 // --- The rows of the table of keys; each says whether it used the key. -------------------------------------

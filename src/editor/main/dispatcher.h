@@ -1,4 +1,4 @@
-// The keys of the input box: key-down acts, key-up speaks.
+// The keys of the input box: what a key does when it goes down.
 #pragma once
 
 #include "platform/forms/keys.h"
@@ -8,7 +8,5 @@ namespace zelko {
 // In the order in which a key is looked at: choosing a range, a finished range, Ctrl+F, sums, dropping a range, Esc,
 // moves. A key that was used is swallowed.
 void inputKeyDown(KeyEvent& key);
-// The questions and the caret; each branch holds the gate.
-void inputKeyUp(KeyEvent& key);
 
 }  // namespace zelko

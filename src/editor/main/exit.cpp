@@ -8,7 +8,7 @@
 namespace zelko {
 
 void leaveProgram() {
-  Form1& main = form<Form1>();
+  Form1& main = mainForm();
   main.storeNames();
   if (!docPath.empty()) flushRec();
   if (talkMode != 0) {

@@ -6,12 +6,14 @@
 #include "editor/main/commands.h"
 #include "editor/main/dispatcher.h"
 #include "editor/main/exit.h"
+#include "editor/main/inputbox.h"
+#include "editor/main/keyup.h"
 #include "editor/main/menutable.h"
+#include "editor/main/speechmenu.h"
 #include "editor/main/state.h"
-#include "editor/moves/commit.h"
-#include "editor/moves/moves.h"
 #include "platform/files/files.h"
 #include "platform/host.h"
+#include "store/table/mainform.h"
 #include "voice/narration.h"
 #include "voice/talk.h"
 
@@ -38,8 +40,7 @@ Form1::Form1() : Form(kName, u"Zelko") {
   RichTextBox2.setToolTip(u"ﾌｧｲﾙ注記は変更できます。編集を加えてください。");
   lblSpeek.setToolTip(u"クリックすると読み上げ機能をoffします");
   Text1.readOnly = txtWIDTH.readOnly = true;
-  Label1.setVisible(false);
-  lblSpeek.setVisible(talkMode != 0);
+  Label1.setVisible(readOnlyMarkShown());
   wireInputBox();
   wireBoxes();
   wireButtons();
@@ -48,7 +49,7 @@ Form1::Form1() : Form(kName, u"Zelko") {
   labelBoxes();
   narrate();
   buildMainMenu(*this);
-  menu().setChecked(u"mnuAGENT", agentOn == 1);
+  showSpeechStateOn(*this);
 }
 
 void Form1::wireInputBox() {

@@ -1,6 +1,7 @@
 // The main form: one box to type in, what the current cell is, and the menu. Open for the whole run.
 #pragma once
 
+#include "platform/fault.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
 
@@ -42,30 +43,6 @@ class Form1 : public Form {
   // 1: the next return to the input box says the item number only.
   std::int16_t itemOnlyReturn = 0;
 
-  // Changes that the program makes, not the user: no box commits, refuses or is echoed for them.
-  class Filling {
-   public:
-    explicit Filling(Form1& form) : form_(form) { ++form_.filling_; }
-    ~Filling() { --form_.filling_; }
-    Filling(const Filling&) = delete;
-    Filling& operator=(const Filling&) = delete;
-
-   private:
-    Form1& form_;
-  };
-  bool isFilling() const { return filling_ > 0; }
-  // While it lives the changes of the two number boxes announce nothing.
-  class HeldAnnouncement {
-   public:
-    explicit HeldAnnouncement(Form1& form) : form_(form) { ++form_.held_; }
-    ~HeldAnnouncement() { --form_.held_; }
-    HeldAnnouncement(const HeldAnnouncement&) = delete;
-    HeldAnnouncement& operator=(const HeldAnnouncement&) = delete;
-
-   private:
-    Form1& form_;
-  };
-
   // Name, width and alignment of the item, and the memo, into their boxes.
   void showItem(std::int16_t item);
   void showMemo();
@@ -101,11 +78,17 @@ class Form1 : public Form {
   void Form_KeyDown(KeyEvent& event);
   void Form_Unload();
 
-  int filling_ = 0, held_ = 0;
   std::int16_t shownItem_ = 0;  // the item and the table that the boxes show
   Text shownPath_;
   bool nameTyped_ = false, memoTyped_ = false;
   Text lastName_, lastMemo_;  // the two rich boxes at their last change
 };
+
+// The main form on every way that begins with a key or a command of the editor: it is there then. A fault where it
+// isn't. Who may come before it uses form<Form1>() or loadedForm<Form1>().
+inline Form1& mainForm() {
+  if (Form1* there = loadedForm<Form1>()) return *there;
+  throw Fault{u"編集画面がありません。"};
+}
 
 }  // namespace zelko

@@ -5,11 +5,11 @@
 #include "editor/main/form1.h"
 #include "editor/main/state.h"
 #include "editor/show/spitem.h"
+#include "parts/cells.h"
 #include "platform/text/number.h"
 #include "store/records/records.h"
 #include "store/table/cursor.h"
 #include "store/table/itemfile.h"
-#include "voice/cells.h"
 #include "voice/names.h"
 #include "voice/talk.h"
 
@@ -17,7 +17,7 @@ namespace zelko {
 
 namespace {
 
-const Form1& main() { return form<Form1>(); }
+const Form1& main() { return mainForm(); }
 const Text& boxText() { return main().txtinputbox.content(); }
 
 Text inputState() {
@@ -74,7 +74,7 @@ constexpr Question kQuestions[] = {
 
 // The blanks that the key which restored a limit, and the one that had put it aside, left behind.
 void clearLimitBlank() {
-  Form1& form1 = form<Form1>();
+  Form1& form1 = mainForm();
   if (inputLimit == 0 || !trimmed(boxText()).empty()) return;
   Silence silence;
   form1.txtinputbox.setText({});

@@ -4,11 +4,12 @@
 
 #include "editor/main/commands.h"
 #include "editor/main/form1.h"
+#include "editor/main/inputbox.h"
+#include "parts/cells.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "store/table/cursor.h"
 #include "voice/agent.h"
-#include "voice/cells.h"
 #include "voice/dialogs.h"
 #include "voice/talk.h"
 
@@ -36,14 +37,14 @@ void setLevel(std::int16_t level, TextView sentence) {
 void agentMenu() {
   if (agentOn != 1) {
     agentOn = 1;
-    form<Form1>().menu().setChecked(u"mnuAGENT", true);
+    mainForm().menu().setChecked(u"mnuAGENT", true);
     form<frmAGENT>().showWithoutFocus();
     if (talkMode == 0) speakDataOnly();
     return;
   }
   unload<frmAGENT>();
   agentOn = 0;
-  form<Form1>().menu().setChecked(u"mnuAGENT", false);
+  mainForm().menu().setChecked(u"mnuAGENT", false);
   if (talkMode != 0) speakNothing();
 }
 
@@ -61,7 +62,7 @@ void askInhibitTime() {
 
 void readSpItemToo() {
   spItemIsRead = !spItemIsRead;
-  Menu& menu = form<Form1>().menu();
+  Menu& menu = mainForm().menu();
   menu.setChecked(u"mnuJY", spItemIsRead);
   talkGated(Text(spItemIsRead ? u"チェック" : u"ノーチェック") + markPause +
             menu.find(u"mnuJY")->captionWithoutMarks());
@@ -84,14 +85,18 @@ void speakNothing() {
 }
 
 void switchSpeech() {
-  if (form<Form1>().lblSpeek.visible())
+  if (mainForm().lblSpeek.visible())
     speakNothing();
   else
     speakWithPlace();
 }
 
 void showSpeechState() {
-  Form1& main = form<Form1>();
+  if (Form1* main = loadedForm<Form1>()) showSpeechStateOn(*main);
+}
+
+void showSpeechStateOn(Form1& main) {
+  main.menu().setChecked(u"mnuAGENT", agentOn == 1);
   main.menu().setChecked(u"mnuDTKN", talkMode == 1);
   main.menu().setChecked(u"mnuDTKEX", talkMode > 1);
   main.menu().setChecked(u"mnuDTKOFF", talkMode == 0);
@@ -109,7 +114,7 @@ void registerSpeechMenu() {
   registerCommand(u"mnuDTKEX", speakWithPlace);
   registerCommand(u"mnuDTKOFF", speakNothing);
   registerCommand(u"mnuJY", readSpItemToo);
-  registerCommand(u"mnuVC", [] { talkB(stateReport(form<Form1>().txtinputbox.content())); });
+  registerCommand(u"mnuVC", [] { talkB(stateReport(inputText())); });
   registerCommand(u"mnuAGENT", agentMenu);
   registerCommand(u"mnuINH", askInhibitTime);
 }

@@ -5,6 +5,11 @@
 
 namespace zelko {
 
+// Writes the input box into the current row; only flushRec reaches the disk.
+void commitCell();
+// If the box holds text (trimmed): commitCell, flushRec, box emptied. Else flushRec.
+void commitBox();
+
 // A move from the input box runs: the box that is being cleared is not echoed.
 class MoveScope {
  public:
@@ -16,9 +21,5 @@ class MoveScope {
  private:
   std::int16_t kept_;
 };
-
-// The given text in place of what the box holds, unheard; the echo memory takes it over.
-void setInputSilently(TextView text);
-void focusInputBox();
 
 }  // namespace zelko

@@ -5,7 +5,7 @@
 #include "editor/main/commands.h"
 #include "editor/main/form1.h"
 #include "editor/main/state.h"
-#include "editor/moves/moves.h"
+#include "editor/show/showcell.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "store/table/cursor.h"
@@ -29,7 +29,7 @@ void chooseEntryItems() {
 
 void visitAllItems() {
   allItemsOn = 1;
-  form<Form1>().Label11.setCaption(entryItemsCaption());
+  mainForm().Label11.setCaption(entryItemsCaption());
   talkGated(u"全項目(0～" + decimal(itemCount) + u")");
 }
 
@@ -101,14 +101,6 @@ void Form5::Form5_Command1_Click() {
 void Form5::Form5_Command2_Click() {
   allItemsOn = 1;
   unload<Form5>();
-}
-
-Text entryItemsCaption() {
-  if (allItemsOn == 1) return u"全項目";
-  Text caption;
-  for (int item = 0; item <= itemCount; ++item)
-    if (entryItem[index(item)] == 1) caption += decimal(item) + u",";
-  return caption;
 }
 
 void registerEntryItems() {

@@ -24,9 +24,6 @@ class Form5 : public Form {
   Text rowSentence() const;
 };
 
-// The list of the entry items for Label11, or "全項目".
-Text entryItemsCaption();
-
 void registerEntryItems();
 
 }  // namespace zelko

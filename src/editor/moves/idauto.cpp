@@ -1,19 +1,27 @@
+#include "editor/moves/idauto.h"
+
 #include <cmath>
 #include <limits>
 
 #include "editor/main/form1.h"
 #include "editor/main/state.h"
-#include "editor/moves/moves.h"
-#include "editor/moves/utilities.h"
+#include "editor/show/showcell.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "platform/text/width.h"
+#include "store/records/records.h"
 #include "store/table/cursor.h"
 #include "store/table/table.h"
 #include "voice/dialogs.h"
 #include "voice/talk.h"
 
 namespace zelko {
+
+void stampId() {
+  Text number = trimmed(str(autoIdValue));
+  setCell(currentRow(), 0, number);
+  if (curItem == 0) idText = number;
+}
 
 void idAuto() {
   if (itemCount == 0) {
@@ -37,7 +45,7 @@ void idAuto() {
   }
   showCell(static_cast<float>(curRec), curItem, {}, {});
   dispAll(curItem);
-  const Form1& main = form<Form1>();
+  const Form1& main = mainForm();
   if (autoIdOn == 1)
     talkBehindDialog(main.Label4.caption() + main.Label13.caption());
   else

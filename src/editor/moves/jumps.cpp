@@ -7,6 +7,7 @@
 #include "editor/main/state.h"
 #include "editor/moves/commit.h"
 #include "editor/moves/moves.h"
+#include "editor/show/showcell.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "platform/text/width.h"

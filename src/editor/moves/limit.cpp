@@ -1,6 +1,7 @@
+#include "editor/moves/limit.h"
+
 #include "editor/main/form1.h"
 #include "editor/main/state.h"
-#include "editor/moves/utilities.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "platform/text/width.h"
@@ -14,7 +15,7 @@ namespace {
 constexpr int kLongestLimit = 249;
 constexpr Colour kYellow = 0x00FFFF;
 
-Label& limitLabel() { return form<Form1>().Label8; }
+Label& limitLabel() { return mainForm().Label8; }
 
 void showLimit() {
   limitLabel().setCaption(u"入力字数制限:" + decimal(inputLimit));

@@ -1,12 +1,14 @@
 #include "editor/moves/moves.h"
 
+#include "editor/main/inputbox.h"
 #include "editor/main/state.h"
 #include "editor/moves/commit.h"
+#include "editor/moves/idauto.h"
 #include "editor/show/sheet.h"
+#include "editor/show/showcell.h"
 #include "platform/host.h"
 #include "store/records/records.h"
 #include "store/table/cursor.h"
-#include "store/table/mainform.h"
 
 namespace zelko {
 namespace {

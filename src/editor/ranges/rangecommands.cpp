@@ -3,16 +3,16 @@
 #include "editor/main/commands.h"
 #include "editor/main/form1.h"
 #include "editor/main/state.h"
-#include "editor/moves/moves.h"
+#include "editor/moves/commit.h"
 #include "editor/ranges/range.h"
 #include "editor/ranges/rangekeys.h"
 #include "editor/rewrites/rewrites.h"
+#include "parts/cells.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "store/records/records.h"
 #include "store/table/cursor.h"
-#include "store/table/itemfile.h"
-#include "voice/cells.h"
+#include "store/table/readonly.h"
 #include "voice/dialogs.h"
 #include "voice/talk.h"
 
@@ -30,7 +30,7 @@ void rangeUsed() {
 // although the dialogs have just spoken.
 void rangeUsedAndTold() {
   rangeUsed();
-  const Form1& main = form<Form1>();
+  const Form1& main = mainForm();
   talkLast = 0;
   talkReturn(u"", main.txtREC.content(), main.txtItemnum.content());
 }

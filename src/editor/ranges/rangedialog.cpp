@@ -4,16 +4,17 @@
 #include <iterator>
 #include <utility>
 
+#include "editor/formulas/sums.h"
 #include "editor/main/commands.h"
 #include "editor/main/form1.h"
+#include "editor/main/inputbox.h"
 #include "editor/main/state.h"
 #include "editor/moves/jumps.h"
-#include "editor/moves/moves.h"
-#include "editor/moves/utilities.h"
 #include "editor/ranges/range.h"
 #include "editor/ranges/rangekeys.h"
 #include "editor/ranges/rangeread.h"
 #include "editor/show/sheet.h"
+#include "editor/show/showcell.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "store/records/records.h"
@@ -246,7 +247,7 @@ void frmHANI::frmHANI_Command2_Click() {
     const Silence silence;  // the next step is told in place of the cell
     close();
   }
-  talkS(form<Form1>(), next);
+  talkS(mainForm(), next);
 }
 
 void frmHANI::frmHANI_Command1_Click() {
@@ -260,7 +261,7 @@ void frmHANI::close() {
   showSilently();
   mode.clear();
   unload<frmHANI>();
-  form<Form1>().txtinputbox.setFocus();
+  focusInputBox();
 }
 
 void beginRange(std::int32_t rec1, std::int32_t rec2, std::int16_t item1, std::int16_t item2) {

@@ -1,15 +1,16 @@
 #include "editor/ranges/rangekeys.h"
 
-#include "editor/main/form1.h"
+#include "editor/formulas/sums.h"
+#include "editor/main/inputbox.h"
 #include "editor/main/state.h"
-#include "editor/moves/moves.h"
-#include "editor/moves/utilities.h"
+#include "editor/moves/commit.h"
 #include "editor/ranges/range.h"
 #include "editor/ranges/rangecommands.h"
 #include "editor/ranges/rangedialog.h"
 #include "editor/ranges/rangemoves.h"
 #include "editor/ranges/rangeread.h"
 #include "editor/show/sheet.h"
+#include "editor/show/showcell.h"
 #include "platform/host.h"
 #include "store/records/records.h"
 #include "store/table/cursor.h"
@@ -79,7 +80,7 @@ void dropRangeAndShow() {
   dropRange();
   dispAll(curItem);
   showCell(static_cast<float>(curRec), curItem, {}, {});
-  form<Form1>().txtinputbox.setFocus();
+  focusInputBox();
 }
 
 bool isPlainSum(int code) { return code <= key::Num0 + 1; }

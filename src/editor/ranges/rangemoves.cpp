@@ -2,14 +2,13 @@
 
 #include "editor/main/commands.h"
 #include "editor/main/state.h"
-#include "editor/moves/moves.h"
 #include "editor/ranges/range.h"
 #include "editor/ranges/rangekeys.h"
 #include "editor/ranges/targetdialog.h"
 #include "platform/host.h"
 #include "store/records/records.h"
 #include "store/table/cursor.h"
-#include "store/table/itemfile.h"
+#include "store/table/readonly.h"
 #include "voice/dialogs.h"
 
 namespace zelko {

@@ -4,12 +4,12 @@
 #include <string_view>
 
 #include "editor/ranges/range.h"
+#include "parts/cells.h"
 #include "platform/forms/form.h"
 #include "platform/text/number.h"
 #include "platform/text/sjis.h"
 #include "store/records/records.h"
 #include "store/table/cursor.h"
-#include "voice/cells.h"
 #include "voice/talk.h"
 
 namespace zelko {

@@ -1,19 +1,19 @@
 #include "editor/ranges/targetdialog.h"
 
 #include "editor/main/form1.h"
+#include "editor/main/inputbox.h"
 #include "editor/main/state.h"
 #include "editor/moves/commit.h"
-#include "editor/moves/moves.h"
 #include "editor/ranges/datamove.h"
 #include "editor/ranges/range.h"
 #include "editor/ranges/rangekeys.h"
 #include "editor/ranges/targetpointer.h"
 #include "editor/rewrites/rewrites.h"
 #include "editor/show/sheet.h"
+#include "editor/show/showcell.h"
 #include "platform/text/number.h"
 #include "store/records/records.h"
 #include "store/table/cursor.h"
-#include "store/table/mainform.h"
 #include "voice/dialogs.h"
 #include "voice/narration.h"
 #include "voice/talk.h"
@@ -147,7 +147,7 @@ void moveCancel() {
   showTyping({});
   mode.clear();
   unload<frmMSSG>();
-  Form1& main = form<Form1>();
+  Form1& main = mainForm();
   main.txtinputbox.setEnabled(true);
   main.txtinputbox.setFocus();
 }

@@ -1,6 +1,6 @@
 #include "editor/rewrites/realign.h"
 
-#include "editor/moves/moves.h"
+#include "editor/show/showcell.h"
 #include "store/records/records.h"
 #include "store/rewrite/rewrite.h"
 #include "store/table/cursor.h"

@@ -2,7 +2,6 @@
 #include "editor/main/commands.h"
 #include "editor/main/state.h"
 #include "editor/moves/commit.h"
-#include "editor/moves/moves.h"
 #include "editor/ranges/rangekeys.h"
 #include "editor/rewrites/rewrites.h"
 #include "editor/rewrites/widthform.h"
@@ -11,7 +10,7 @@
 #include "platform/text/width.h"
 #include "store/records/records.h"
 #include "store/table/cursor.h"
-#include "store/table/itemfile.h"
+#include "store/table/readonly.h"
 #include "voice/dialogs.h"
 
 namespace zelko {

@@ -7,8 +7,8 @@
 #include "platform/host.h"
 #include "store/records/records.h"
 #include "store/table/cursor.h"
-#include "store/table/itemfile.h"
 #include "store/table/notice.h"
+#include "store/table/readonly.h"
 #include "voice/progress.h"
 
 namespace zelko {
@@ -44,7 +44,7 @@ bool runRewrite(const RewriteJob& job) {
     reloadCur();
     return false;
   }
-  form<Form1>().storeNames();
+  mainForm().storeNames();
   const RewriteEnd end = rewriteWithDialog(job);
   if (end == RewriteEnd::failed) tellWriteError();
   reloadCur();

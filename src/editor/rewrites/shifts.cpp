@@ -1,5 +1,5 @@
-#include "editor/moves/moves.h"
-#include "editor/moves/utilities.h"
+#include "editor/rewrites/shifts.h"
+
 #include "store/records/records.h"
 #include "store/table/cursor.h"
 #include "voice/talk.h"

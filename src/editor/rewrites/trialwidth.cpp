@@ -3,11 +3,11 @@
 #include <algorithm>
 
 #include "editor/main/form1.h"
-#include "editor/moves/moves.h"
 #include "editor/rewrites/rewriterun.h"
 #include "editor/rewrites/rewrites.h"
 #include "editor/rewrites/widthform.h"
 #include "editor/show/sheet.h"
+#include "editor/show/showcell.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "store/records/records.h"
@@ -62,7 +62,7 @@ void previewWidths(const std::array<std::int16_t, kMaxItems>& widths) {
     layRow(recCache[static_cast<std::size_t>(i + 2)], cells);
   rangeMask(1, std::max(records, 1), curItem, curItem, kWidthMask);
   dispAll(curItem);
-  form<Form1>().showItem(curItem);
+  mainForm().showItem(curItem);
   if (auto* width = loadedForm<frmFLN>()) width->showRuler();
 }
 

@@ -20,7 +20,7 @@ frmKOJIND::frmKOJIND() : Form(kName, u"個別記録表示") {
   Grid1.onKeyPress = [](CharEvent& event) {
     if (event.ch != key::Enter && event.ch != key::Esc) return;
     event.ch = 0;
-    form<Form1>().activate();
+    mainForm().activate();
   };
   Narration(*this)
       .explain(

@@ -3,7 +3,6 @@
 #include <map>
 
 #include "editor/main/commands.h"
-#include "editor/main/form1.h"
 #include "editor/main/state.h"
 #include "platform/host.h"
 #include "platform/text/number.h"

@@ -4,7 +4,6 @@
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
 #include "platform/forms/lists.h"
-#include "voice/cellhooks.h"
 
 namespace zelko {
 
@@ -28,6 +27,8 @@ class frmItemList : public Form {
 // One row of the list: number in four places, name in 30 bytes, alignment, width.
 Text itemListRow(int item, TextView name, TextView alignment, int width);
 
+// The list of the open table; a beep without one.
+void showItemList();
 // The list of the second table description, under the name of its file; for looking only.
 void showOtherItemList(TextView fileName);
 

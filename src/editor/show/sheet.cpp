@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "editor/main/form1.h"
+#include "editor/moves/commit.h"
 #include "editor/moves/moves.h"
 #include "platform/text/number.h"
 #include "store/records/records.h"
@@ -52,7 +53,7 @@ frmSHEET::frmSHEET() : Form(kName, u"") {
   Grid1.onDblClick = [this] { openMarkedCell(); };
   Grid1.onKeyPress = [this](CharEvent& event) {
     if (event.ch == key::Enter) openMarkedCell();
-    if (event.ch == key::Esc) form<Form1>().activate();
+    if (event.ch == key::Esc) mainForm().activate();
     if (event.ch == key::Enter || event.ch == key::Esc) event.ch = 0;
   };
   Narration(*this)
@@ -103,7 +104,7 @@ void frmSHEET::Grid1_RowColChange() {
 void frmSHEET::openMarkedCell() {
   std::int32_t record = cacheBase + Grid1.row() - 1;
   auto item = static_cast<std::int16_t>(Grid1.col() - 1);
-  form<Form1>().activate();
+  mainForm().activate();
   commitBox();
   goTo(std::min(record, recCount() + 1), item);
 }

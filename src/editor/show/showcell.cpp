@@ -1,31 +1,22 @@
-// What is shown for the cursor: the controls of the main form, the view beside it, the title.
+#include "editor/show/showcell.h"
+
 #include <algorithm>
 
+#include "editor/main/filling.h"
 #include "editor/main/form1.h"
+#include "editor/main/inputbox.h"
 #include "editor/main/state.h"
-#include "editor/moves/commit.h"
-#include "editor/moves/moves.h"
 #include "editor/show/card.h"
 #include "editor/show/sheet.h"
 #include "platform/text/number.h"
 #include "store/records/records.h"
 #include "store/table/cursor.h"
-#include "store/table/mainform.h"
 
 namespace zelko {
 namespace {
 
 // Twips of the main form as it is laid out at 100 %.
 constexpr int kFormWidth = 11895, kInputLeft = 1320, kRightMargin = 200;
-
-Text entryItemList() {
-  if (allItemsOn == 1) return u"全項目";
-  Text list;
-  for (int i = 0; i <= itemCount; ++i) {
-    if (entryItem[static_cast<std::size_t>(i)] == 1) list += decimal(i) + u",";
-  }
-  return list;
-}
 
 Text idCaption() {
   Text id = trimmed(cellOfCur(0));
@@ -51,9 +42,9 @@ bool focusBelongsElsewhere() {
 }  // namespace
 
 void showCell(float record, float item, TextView preset, TextView) {
-  Form1& main = form<Form1>();
+  Form1& main = mainForm();
   main.storeNames();
-  Form1::Filling filling(main);
+  const Filling filling;
   auto i = static_cast<std::size_t>(item);
   // A single holds no more than 24 bits: the cursor itself is meant where it rounds to the same.
   std::int32_t wanted = record == static_cast<float>(curRec) ? curRec : static_cast<std::int32_t>(record);
@@ -68,7 +59,7 @@ void showCell(float record, float item, TextView preset, TextView) {
   main.txtinputbox.setWidth(std::min(itemWidth[i] * boxCharTwips, kFormWidth - kInputLeft - kRightMargin));
   main.txtinputbox.setText(preset);
   main.showMemo();
-  main.Label11.setCaption(entryItemList());
+  main.Label11.setCaption(entryItemsCaption());
 }
 
 void dispAll(std::int16_t&) {
@@ -82,15 +73,22 @@ void dispAll(std::int16_t&) {
 
 void showTitle() {
   Text drive = docDrive.empty() ? Text() : docDrive + u":";
-  form<Form1>().setCaption(u"Zelko (" + drive + docPath + u"/記録数:" + decimal(recCount()) + u")");
+  Form1* main = loadedForm<Form1>();
+  if (!main) return;
+  main->setCaption(u"Zelko (" + drive + docPath + u"/記録数:" + decimal(recCount()) + u")");
   if (auto* sheet = loadedForm<frmSHEET>()) sheet->showHead();
 }
 
-bool readOnlyMarkShown() {
-  Form1* main = loadedForm<Form1>();
-  return main && main->Label1.visible();
+void showMark(bool shown) {
+  if (Form1* main = loadedForm<Form1>()) main->Label1.setVisible(shown);
 }
 
-void showReadOnlyMark(bool shown) { form<Form1>().Label1.setVisible(shown); }
+Text entryItemsCaption() {
+  if (allItemsOn == 1) return u"全項目";
+  Text caption;
+  for (int item = 0; item <= itemCount; ++item)
+    if (entryItem[static_cast<std::size_t>(item)] == 1) caption += decimal(item) + u",";
+  return caption;
+}
 
 }  // namespace zelko

@@ -2,7 +2,7 @@
 
 #include "editor/main/commands.h"
 #include "editor/main/form1.h"
-#include "editor/moves/moves.h"
+#include "editor/show/showcell.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "platform/text/width.h"
@@ -19,7 +19,7 @@ frmSPITEM::frmSPITEM() : Form(kName, u"特定項目の表示") {
   onKeyDown = [](KeyEvent& key) {
     if (!key.is(key::Esc, shift::None)) return;
     key.swallow();
-    form<Form1>().activate();
+    mainForm().activate();
   };
   Narration(*this).explain([this] { return markStop + Label1.caption(); });
 }

@@ -1,22 +1,23 @@
 #include "editor/show/view.h"
 
+#include "editor/main/filling.h"
 #include "editor/main/form1.h"
-#include "editor/moves/commit.h"
-#include "editor/moves/moves.h"
+#include "editor/main/inputbox.h"
+#include "editor/main/state.h"
+#include "editor/moves/limit.h"
 #include "editor/show/card.h"
 #include "editor/show/sheet.h"
-#include "platform/text/number.h"
+#include "editor/show/showcell.h"
 #include "store/table/cursor.h"
 #include "store/table/itemfile.h"
-#include "store/table/mainform.h"
 
 namespace zelko {
 namespace {
 
 // The numbers of another table are no news where they happen to be equal: emptied first, they are announced.
 void forgetShownCell(Form1& main) {
-  Form1::Filling filling(main);
-  Form1::HeldAnnouncement held(main);
+  const Filling filling;
+  const HeldAnnouncement held;
   main.txtREC.setText(u"");
   main.txtItemnum.setText(u"");
   emptyInputBox();
@@ -34,7 +35,7 @@ void enterEditor() {
   hideRangeMask();
   dropRange();
   forgetShownCell(main);
-  main.Label8.setCaption(inputLimit == 0 ? Text(u"字数制限:項目幅") : u"制限字数:" + decimal(inputLimit));
+  main.Label8.setCaption(limitCaption());
   showTitle();
   showCell(static_cast<float>(curRec), curItem, u"", u"");
   main.txtinputbox.setFocus();

@@ -9,6 +9,7 @@
 #include "store/rewrite/rewrite.h"
 #include "store/table/itemfile.h"
 #include "store/table/notice.h"
+#include "store/table/readonly.h"
 #include "voice/progress.h"
 
 namespace zelko {

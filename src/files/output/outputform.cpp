@@ -3,7 +3,7 @@
 #include <map>
 
 #include "editor/main/commands.h"
-#include "editor/moves/moves.h"
+#include "editor/show/showcell.h"
 #include "files/output/output.h"
 #include "files/output/outputname.h"
 #include "files/picker/makefolder.h"

@@ -2,8 +2,9 @@
 
 #include "editor/main/form1.h"
 #include "editor/main/state.h"
+#include "editor/moves/commit.h"
 #include "editor/moves/entryitems.h"
-#include "editor/moves/moves.h"
+#include "editor/show/showcell.h"
 #include "editor/show/spitem.h"
 #include "editor/show/view.h"
 #include "files/picker/pickerwords.h"

@@ -9,6 +9,7 @@
 #include "store/table/cursor.h"
 #include "store/table/itemfile.h"
 #include "store/table/notice.h"
+#include "store/table/readonly.h"
 #include "voice/dialogs.h"
 #include "voice/progress.h"
 #include "voice/talk.h"

@@ -99,7 +99,7 @@ bool flushRec() {
   row[kDataBytes] = '\r';
   row[kDataBytes + 1] = '\n';
   const bool stored = putRec(kDataFile, curRec, {row.data(), row.size()});
-  if (curRec >= recCount()) showTitle();
+  if (curRec >= recCount()) mainFormHooks.showTitle();
   return stored;
 }
 

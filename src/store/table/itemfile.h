@@ -38,12 +38,4 @@ void openTable(TextView fullName, Text& error);
 // Opens the data file of the current names again as file 1 (after closeAll); false where it is gone or can't be opened.
 bool reopenData();
 
-// The read-only attribute of the data file.
-bool tableIsReadOnly();
-// For a command that rewrites the table: tells the notice and answers true when the table is read-only.
-bool refusedAsReadOnly();
-// The question of the menu, and on yes the attribute is changed and the mark shown or hidden. Before the file is locked
-// the current row is stored; a change that fails is told as a write error. A beep where no table is open.
-void toggleReadOnly();
-
 }  // namespace zelko

@@ -1,11 +1,18 @@
-// What the store needs of the main form; the editor defines it.
+// What the store tells the main form. The wiring registers who listens; until then nobody does, and the store works
+// without a form.
 #pragma once
+
+#include <functional>
 
 namespace zelko {
 
-// Title of the main form: product name, table, record count.
-void showTitle();
-// The mark "ReadOnly!" of the main form.
+struct MainFormHooks {
+  std::function<void()> showTitle = [] {};                   // the record count may have changed
+  std::function<void(bool)> showReadOnlyMark = [](bool) {};  // the mark "ReadOnly!" comes or goes
+};
+extern MainFormHooks mainFormHooks;
+
+// The mark says that writes of the open table are refused, and that the user has been told.
 bool readOnlyMarkShown();
 void showReadOnlyMark(bool shown);
 

@@ -1,4 +1,5 @@
-// The read-only attribute of the open table's data file.
+#include "store/table/readonly.h"
+
 #include "platform/files/files.h"
 #include "platform/host.h"
 #include "store/records/records.h"

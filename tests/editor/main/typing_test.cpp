@@ -4,8 +4,9 @@
 #include <fstream>
 
 #include "editor/editor_fixture.h"
+#include "editor/main/inputbox.h"
 #include "editor/main/state.h"
-#include "editor/moves/moves.h"
+#include "editor/show/showcell.h"
 #include "editor/show/view.h"
 #include "store/table/cursor.h"
 

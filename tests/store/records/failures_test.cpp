@@ -5,6 +5,7 @@
 #include "platform/host.h"
 #include "store/store_fixture.h"
 #include "store/table/mainform.h"
+#include "store/table/readonly.h"
 #include "voice/talk.h"
 
 using namespace zelko;

@@ -4,7 +4,6 @@
 #include "platform/files/files.h"
 #include "platform/text/sjis.h"
 #include "store/store_fixture.h"
-#include "store/table/mainform.h"
 
 using namespace zelko;
 using namespace zelko::test;

@@ -1,4 +1,4 @@
-#include "voice/cells.h"
+#include "parts/cells.h"
 
 #include <algorithm>
 

@@ -2,9 +2,11 @@
 #pragma once
 
 #include "platform/text/text.h"
-#include "voice/cellhooks.h"
 
 namespace zelko {
+
+void talkCell();   // the current cell
+void talkRange();  // the current record, or the held stretch of items
 
 // The announcement of a move, composed from curRec and curItem, through the gate and talkNow.
 void announceCell();

@@ -1,0 +1,7 @@
+#include "voice/cellhooks.h"
+
+namespace zelko {
+
+CellHooks cellHooks;
+
+}  // namespace zelko
