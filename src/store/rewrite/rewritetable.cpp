@@ -29,7 +29,7 @@ bool readOld(std::int64_t first, std::size_t count, char* out) {
   return readBlock(kDataFile, first * recLen, out, size, got) == FileError::none && got == size;
 }
 
-RewriteEnd makeWork(const RewritePlan& plan, const KeepGoing& keepGoing) {
+RewriteEnd makeWork(const RewritePlan& plan, const ReadRecords& read, const KeepGoing& keepGoing) {
   const Text name = besideTable(kWorkFile);
   if (lengthOf(name) >= 0 && deleteFile(name) != FileError::none) return RewriteEnd::failed;
   if (openRandom(kWork, name, recLen) != FileError::none) return RewriteEnd::failed;
@@ -40,7 +40,7 @@ RewriteEnd makeWork(const RewritePlan& plan, const KeepGoing& keepGoing) {
     written += static_cast<std::int64_t>(records.size());
     return reached;
   };
-  RewriteEnd end = rewriteRecords(plan, readOld, write, keepGoing);
+  RewriteEnd end = rewriteRecords(plan, read, write, keepGoing);
   if (end == RewriteEnd::done && syncFile(kWork) != FileError::none) end = RewriteEnd::failed;
   if (closeFile(kWork) != FileError::none && end == RewriteEnd::done) end = RewriteEnd::failed;
   return end;
@@ -84,11 +84,12 @@ bool folderIsFree() {
   return !left || finishSwap(*left);
 }
 
-RewriteEnd makeAndSwap(const RewritePlan& plan, const std::vector<ItemLine>* items, const KeepGoing& keepGoing) {
+RewriteEnd makeAndSwap(const RewritePlan& plan, const ReadRecords& read, const std::vector<ItemLine>* items,
+                       const KeepGoing& keepGoing) {
   if (!folderIsFree()) return RewriteEnd::failed;
   RewriteEnd end = RewriteEnd::failed;
   if (items == nullptr || (!isReadOnly(itemFilePath(docPath, docDrive)) && makeWorkItems(*items)))
-    end = makeWork(plan, keepGoing);
+    end = makeWork(plan, read, keepGoing);
   if (end == RewriteEnd::done && !swapWork(items != nullptr)) end = RewriteEnd::failed;
   if (end != RewriteEnd::done && !interruptedSwap(besideTable(u""))) deleteWork();
   return end;
@@ -104,13 +105,19 @@ std::vector<ItemLine> itemsOnDisk() {
 }
 
 RewriteEnd rewriteTable(const RewritePlan& plan, const std::vector<ItemLine>* items, const KeepGoing& keepGoing) {
-  const RewriteEnd end = makeAndSwap(plan, items, keepGoing);
+  const RewriteEnd end = makeAndSwap(plan, readOld, items, keepGoing);
   if (end == RewriteEnd::done && items != nullptr) {
     Text error;
     readKFile(docPath, docDrive, error);
     if (!error.empty()) adoptWorkItems();
   }
   computeItemStart();
+  if (!isOpen(kDataFile)) reopenData();
+  return end;
+}
+
+RewriteEnd rewriteTable(std::int32_t records, const ReadRecords& read, const KeepGoing& keepGoing) {
+  const RewriteEnd end = makeAndSwap({{{1, records}}, {}}, read, nullptr, keepGoing);
   if (!isOpen(kDataFile)) reopenData();
   return end;
 }
