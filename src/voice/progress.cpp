@@ -52,7 +52,7 @@ Progress::~Progress() noexcept(false) {
 
 bool Progress::step(std::int64_t done) {
   host().letEventsThrough();
-  const std::int64_t tenths = total_ > 0 ? done * 10 / total_ : 0;
+  const std::int64_t tenths = tenthsOf(done);
   if (tenths != shownTenths_) {
     shownTenths_ = tenths;
     form_.Label1.setCaption(decimal(tenths * 10) + u"%完了");

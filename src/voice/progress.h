@@ -20,9 +20,13 @@ class Progress {
 
   // One step done: lets events through, shows how far the work is now and then. False once the user asked to stop.
   bool step(std::int64_t done);
+  // True where that step would show another number.
+  bool shows(std::int64_t done) const { return tenthsOf(done) != shownTenths_; }
   bool stopped() const { return stopped_; }
 
  private:
+  std::int64_t tenthsOf(std::int64_t done) const { return total_ > 0 ? done * 10 / total_ : 0; }
+
   std::int64_t total_;
   bool opened_;  // false for work inside work: the outer one closes the form
   frmDOE& form_;

@@ -13,10 +13,15 @@ class StoreHost : public HeadlessHost {
  public:
   StoreHost() : HeadlessHost([this](std::string_view line) { beeps += line == "beep"; }) {}
   void runModal(Form& form) override;
+  bool eventWaits() override { return event != nullptr; }
+  void letEventsThrough() override {
+    if (event) event();
+  }
 
   std::vector<Dialog> dialogs;
   int beeps = 0;
   bool yes = true;
+  std::function<void()> event;
 };
 
 void StoreHost::runModal(Form& form) {
@@ -37,10 +42,12 @@ void useStoreHost() {
   takeDialogs();
   takeBeeps();
   storeHost().yes = true;
+  storeHost().event = {};
 }
 
 std::vector<Dialog> takeDialogs() { return std::exchange(storeHost().dialogs, {}); }
 int takeBeeps() { return std::exchange(storeHost().beeps, 0); }
+void duringEvents(std::function<void()> look) { storeHost().event = std::move(look); }
 void answerQuestionsWith(bool yes) { storeHost().yes = yes; }
 
 }  // namespace zelko::test

@@ -1,6 +1,8 @@
 // A machine that shows nothing: it counts beeps, writes every dialog down and answers it at once.
 #pragma once
 
+#include <functional>
+
 #include "store/store_fixture.h"
 
 namespace zelko::test {
@@ -9,5 +11,7 @@ void useStoreHost();
 std::vector<Dialog> takeDialogs();
 int takeBeeps();
 void answerQuestionsWith(bool yes);
+// Runs whenever long work lets events through.
+void duringEvents(std::function<void()> look);
 
 }  // namespace zelko::test

@@ -55,6 +55,25 @@ FileError writeBlock(int number, std::int64_t offset, std::string_view bytes) {
   return FileError::none;
 }
 
+FileError mayWriteRecords(int number) {
+  const OpenFile* file = openFile(number, OpenFile::Use::random);
+  return file == nullptr ? FileError::badNumber : mayWrite(*file);
+}
+
+bool leadsTo(TextView path, int number) {
+  const OpenFile* file = openFile(number, OpenFile::Use::random);
+  struct stat status {};
+  if (file == nullptr || stat(nativePath(path).c_str(), &status) != 0) return false;
+  return status.st_dev == file->device && status.st_ino == file->inode;
+}
+
+FileError cutOpenFile(int number, std::int64_t length) {
+  const OpenFile* file = openFile(number, OpenFile::Use::random);
+  if (file == nullptr) return FileError::badNumber;
+  dropWindows();
+  return ftruncate(file->descriptor, length) == 0 ? FileError::none : errorOfErrno(errno);
+}
+
 Text behindLinks(TextView path) {
   std::error_code error;
   const std::filesystem::path name = nativePath(path);

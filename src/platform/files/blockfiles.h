@@ -15,6 +15,13 @@ FileError readBlock(int number, std::int64_t offset, char* out, std::size_t size
 // that syncFile behind it has little left to wait for.
 FileError writeBlock(int number, std::int64_t offset, std::string_view bytes);
 
+// Whether its records may be written: pathAccess without the owner's write bit, device where it was deleted meanwhile.
+FileError mayWriteRecords(int number);
+// Whether the name leads to that very file.
+bool leadsTo(TextView path, int number);
+// The open file ends behind `length` bytes.
+FileError cutOpenFile(int number, std::int64_t length);
+
 // The file that a name leads to through links; the name itself where it is no link or leads nowhere.
 Text behindLinks(TextView path);
 // Gives `to` the permissions of `from`.

@@ -31,6 +31,10 @@ enum class FileError {
 // Opens for random access by record number; a file that does not exist comes into being empty. A file that
 // may not be written is opened for reading, and its writes give pathAccess.
 FileError openRandom(int number, TextView path, int recordLength);
+// The same for a file that must not stand there yet (alreadyExists), not even as a link.
+FileError createRandom(int number, TextView path, int recordLength);
+// The same for a file that is there (notFound), whose writes give pathAccess.
+FileError openRandomToRead(int number, TextView path, int recordLength);
 // A missing file gives notFound, a folder pathAccess, a pipe or socket device.
 FileError openInput(int number, TextView path);
 // Replaces what stands there. Up to 64 KiB are replaced by one write when the file is closed, so that a program that

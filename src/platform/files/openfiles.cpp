@@ -14,6 +14,7 @@ namespace {
 
 constexpr int kLargestNumber = 15;
 std::array<OpenFile, kLargestNumber + 1> table;  // 0 is never used
+std::uint64_t openings = 0;
 
 bool isNumber(int number) { return number >= 1 && number <= kLargestNumber; }
 
@@ -69,11 +70,19 @@ FileError openAs(int number, TextView path, OpenFile::Use use, std::span<const i
   OpenFile& file = table[static_cast<std::size_t>(number)];
   file.use = use;
   file.descriptor = descriptor;
+  file.opening = ++openings;
   file.regular = S_ISREG(status.st_mode);
   file.device = status.st_dev;
   file.inode = status.st_ino;
   file.writable = writable;
   return FileError::none;
+}
+
+FileError openRecords(int number, TextView path, int recordLength, std::span<const int> flagsToTry) {
+  if (recordLength < 1) return FileError::badNumber;
+  const FileError error = openAs(number, path, OpenFile::Use::random, flagsToTry);
+  if (error == FileError::none) openFile(number, OpenFile::Use::random)->recordLength = recordLength;
+  return error;
 }
 
 }  // namespace
@@ -82,6 +91,16 @@ OpenFile* openFile(int number, OpenFile::Use use) {
   if (!isNumber(number)) return nullptr;
   OpenFile& file = table[static_cast<std::size_t>(number)];
   return file.use == use ? &file : nullptr;
+}
+
+std::uint64_t openingOf(int number) { return isNumber(number) ? table[static_cast<std::size_t>(number)].opening : 0; }
+
+FileError mayWrite(const OpenFile& file) {
+  struct stat status {};
+  if (fstat(file.descriptor, &status) != 0) return errorOfErrno(errno);
+  if (status.st_nlink == 0) return FileError::device;
+  const bool readOnly = !file.writable || (status.st_mode & S_IWUSR) == 0;
+  return readOnly ? FileError::pathAccess : FileError::none;
 }
 
 void dropWindows() {
@@ -134,11 +153,18 @@ std::string nativePath(TextView path) {
 }
 
 FileError openRandom(int number, TextView path, int recordLength) {
-  if (recordLength < 1) return FileError::badNumber;
   constexpr int kFlags[] = {O_RDWR | O_CREAT, O_RDONLY};
-  const FileError error = openAs(number, path, OpenFile::Use::random, kFlags);
-  if (error == FileError::none) openFile(number, OpenFile::Use::random)->recordLength = recordLength;
-  return error;
+  return openRecords(number, path, recordLength, kFlags);
+}
+
+FileError createRandom(int number, TextView path, int recordLength) {
+  constexpr int kFlags[] = {O_RDWR | O_CREAT | O_EXCL};
+  return openRecords(number, path, recordLength, kFlags);
+}
+
+FileError openRandomToRead(int number, TextView path, int recordLength) {
+  constexpr int kFlags[] = {O_RDONLY};
+  return openRecords(number, path, recordLength, kFlags);
 }
 
 FileError openInput(int number, TextView path) {

@@ -16,7 +16,8 @@ struct OpenFile {
 
   Use use = Use::closed;
   int descriptor = -1;
-  bool regular = false;  // not a device such as a printer port
+  std::uint64_t opening = 0;  // no two openings have the same
+  bool regular = false;       // not a device such as a printer port
   dev_t device = 0;
   ino_t inode = 0;
 
@@ -36,6 +37,10 @@ struct OpenFile {
 
 // The file of that number where it is open for that use, else null.
 OpenFile* openFile(int number, OpenFile::Use use);
+// Which opening of the number stands; 0 while it is closed.
+std::uint64_t openingOf(int number);
+// Whether its records may be written now: not where the owner's write bit is off or the file was deleted.
+FileError mayWrite(const OpenFile& file);
 // Called for every write past the record procedures: what the windows hold may have changed.
 void dropWindows();
 // Patches the windows of all numbers under which the same file is open.

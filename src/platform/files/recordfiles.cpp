@@ -3,7 +3,6 @@
 #include <cstring>
 #include <vector>
 
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include "platform/files/openfiles.h"
@@ -37,13 +36,6 @@ FileError writeAt(int descriptor, const char* bytes, std::size_t size, std::int6
     done += static_cast<std::size_t>(put);
   }
   return FileError::none;
-}
-
-FileError mayWrite(const OpenFile& file, struct stat& status) {
-  if (fstat(file.descriptor, &status) != 0) return errorOfErrno(errno);
-  if (status.st_nlink == 0) return FileError::device;
-  const bool readOnly = !file.writable || (status.st_mode & S_IWUSR) == 0;
-  return readOnly ? FileError::pathAccess : FileError::none;
 }
 
 bool readBefore(const OpenFile& file, Place place, std::vector<char>& before) {
@@ -82,17 +74,17 @@ FileError getRecord(int number, std::int32_t record, char* out) {
 FileError putRecord(int number, std::int32_t record, const char* bytes) {
   OpenFile* file = openFile(number, OpenFile::Use::random);
   if (file == nullptr || record < 1) return FileError::badNumber;
-  struct stat status {};
-  FileError error = mayWrite(*file, status);
+  FileError error = mayWrite(*file);
   if (error != FileError::none) return error;
+  const std::int64_t length = fileLength(number);
 
   const Place place = placeOf(*file, record);
   std::vector<char> before;
-  if (place.offset < status.st_size && !readBefore(*file, place, before)) return errorOfErrno(errno);
+  if (place.offset < length && !readBefore(*file, place, before)) return errorOfErrno(errno);
 
   error = writeAt(file->descriptor, bytes, place.size, place.offset);
   if (error != FileError::none) {
-    restore(*file, status.st_size, place.offset, before);
+    restore(*file, length, place.offset, before);
     return error;
   }
   patchWindows(*file, place.offset, bytes, place.size);

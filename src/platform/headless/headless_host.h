@@ -41,6 +41,8 @@ class HeadlessHost : public Host {
   void formForgotten(Form& form) override;
   void runModal(Form& form) override;
   void letEventsThrough() override;
+  // A delivery is counted in passes, so that each pass is wanted while one is due.
+  bool eventWaits() override { return !deliveries_.empty(); }
   void waitSeconds(double seconds) override;
   float dayTimer() override;
   DateTime now() override;

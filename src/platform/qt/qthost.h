@@ -51,6 +51,7 @@ class QtHost : public Host {
 
   void runModal(Form& form) override;
   void letEventsThrough() override;
+  bool eventWaits() override { return Clock::now() >= nextLook_; }
   void waitSeconds(double seconds) override;
   float dayTimer() override;
   DateTime now() override;

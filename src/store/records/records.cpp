@@ -23,13 +23,6 @@ struct ToldFailure {
 };
 ToldFailure told;
 
-std::int32_t countOf(int file) {
-  const std::int64_t records = fileLength(file) / recLen;
-  // The new line behind the last record has a number too.
-  constexpr std::int64_t kMost = std::numeric_limits<std::int32_t>::max() - 1;
-  return static_cast<std::int32_t>(std::min(records, kMost));
-}
-
 void tellRefusedWrite(FileError error, int file, std::int32_t record, const CacheRow& bytes) {
   if (error == FileError::pathAccess) {
     if (readOnlyMarkShown()) return;
@@ -52,12 +45,19 @@ std::size_t rowIndex(std::int32_t record) {
 
 void forgetToldFailure() { told.file = 0; }
 
-std::int32_t recCount() { return countOf(kDataFile); }
+std::int32_t recCountOf(int file) {
+  const std::int64_t records = fileLength(file) / recLen;
+  // The new line behind the last record has a number too.
+  constexpr std::int64_t kMost = std::numeric_limits<std::int32_t>::max() - 1;
+  return static_cast<std::int32_t>(std::min(records, kMost));
+}
+
+std::int32_t recCount() { return recCountOf(kDataFile); }
 
 bool getRec(int file, std::int32_t record, CacheRow& out) {
   if (record >= 1 && getRecord(file, record, out.data()) == FileError::none) {
     // Behind the end of the file everything reads as NUL, so only then is a look at its length needed.
-    if (out.back() != '\0' || record <= countOf(file)) return true;
+    if (out.back() != '\0' || record <= recCountOf(file)) return true;
   }
   setRow(out, blankRec);
   return false;

@@ -9,6 +9,8 @@ namespace zelko {
 
 // File 1 divided by recLen, fractions dropped.
 std::int32_t recCount();
+// The same for any file that is open for random access.
+std::int32_t recCountOf(int file);
 
 // One record, as it stands on disk, into 256 bytes. False past the end or on a read failure (`out` is then blank).
 bool getRec(int file, std::int32_t record, CacheRow& out);

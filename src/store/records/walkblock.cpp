@@ -1,0 +1,145 @@
+#include "store/records/walkblock.h"
+
+#include <algorithm>
+#include <cstring>
+#include <ctime>
+
+#include "platform/files/blockfiles.h"
+#include "store/records/records.h"
+
+namespace zelko {
+
+namespace {
+
+constexpr std::int64_t kOldMilliseconds = 100;
+constexpr std::int32_t kPageRecords = 4096 / recLen;  // a kill never parts a page
+
+std::int64_t nowMilliseconds() {
+  timespec now{};
+  clock_gettime(CLOCK_MONOTONIC_COARSE, &now);
+  return std::int64_t{now.tv_sec} * 1000 + now.tv_nsec / 1000000;
+}
+
+std::int64_t placeOf(std::int32_t record) { return (std::int64_t{record} - 1) * recLen; }
+
+bool sameData(const char* one, const char* other) { return std::memcmp(one, other, kDataBytes) == 0; }
+
+void endLine(char* record) {
+  record[kDataBytes] = '\r';
+  record[kDataBytes + 1] = '\n';
+}
+
+}  // namespace
+
+bool RecordBlock::load(std::int32_t first, std::int32_t count) {
+  first_ = first;
+  count_ = count;
+  waiting_ = 0;
+  loadedAt_ = nowMilliseconds();
+  const std::size_t size = static_cast<std::size_t>(count) * recLen;
+  if (held_.size() < size) held_.resize(size);
+  states_.assign(static_cast<std::size_t>(count), State::clean);
+  const std::int32_t there = std::clamp(recCountOf(file_) - first + 1, 0, count);
+  const std::size_t wanted = static_cast<std::size_t>(there) * recLen;
+  std::size_t got = 0;
+  if (there > 0 && (readBlock(file_, placeOf(first), held_.data(), wanted, got) != FileError::none || got != wanted)) {
+    forget();
+    return false;
+  }
+  for (std::int32_t record = first + there; record < first + count; ++record) {
+    std::memset(bytesOf(record), ' ', kDataBytes);
+    endLine(bytesOf(record));
+    stateOf(record) = State::ahead;
+  }
+  return true;
+}
+
+char* RecordBlock::visit(std::int32_t record) {
+  State& state = stateOf(record);
+  if (state == State::ahead) {
+    state = State::made;
+    ++waiting_;
+  }
+  return bytesOf(record);
+}
+
+bool RecordBlock::isOld() const { return nowMilliseconds() - loadedAt_ >= kOldMilliseconds; }
+
+void RecordBlock::touch(std::int32_t record) {
+  State& state = stateOf(record);
+  if (state != State::clean) return;
+  if (before_.size() < held_.size()) before_.resize(held_.size());
+  std::memcpy(before_.data() + offset(record), bytesOf(record), recLen);
+  state = State::changed;
+  ++waiting_;
+}
+
+void RecordBlock::settle(std::int32_t record) {
+  State& state = stateOf(record);
+  if (state == State::clean) return;
+  const char* before = before_.data() + offset(record);
+  if (state == State::made || !sameData(bytesOf(record), before)) return endLine(bytesOf(record));
+  std::memcpy(bytesOf(record), before, recLen);
+  state = State::clean;
+  --waiting_;
+}
+
+bool RecordBlock::store(bool towardsHead, bool tell) {
+  if (!waits()) return true;
+  const auto belongs = [&](std::int32_t one, std::int32_t next) {
+    const bool otherPage = (std::max(one, next) - 1) % kPageRecords == 0;
+    return stateOf(one) == stateOf(next) && !(towardsHead && otherPage);
+  };
+  for (std::int32_t at = 0; at < count_;) {
+    const std::int32_t from = towardsHead ? first_ + count_ - 1 - at : first_ + at, step = towardsHead ? -1 : 1;
+    std::int32_t to = from;
+    for (++at; at < count_ && belongs(to, to + step); ++at) to += step;
+    const bool waits = stateOf(from) == State::changed || stateOf(from) == State::made;
+    if (waits && !storeRun(std::min(from, to), std::max(from, to), tell)) return false;
+  }
+  waiting_ = 0;
+  return true;
+}
+
+bool RecordBlock::storeRun(std::int32_t first, std::int32_t last, bool tell) {
+  const bool made = stateOf(first) == State::made;
+  bool stored = (made || mergeOthers(first, last)) && writeRun(first, last);
+  if (!stored && tell) {
+    // One by one, so that what can be stored is, and what cannot is told with its reason.
+    stored = true;
+    for (std::int32_t record = first; record <= last && stored; ++record)
+      stored = putRec(file_, record, {bytesOf(record), recLen});
+  }
+  if (stored) std::fill(states_.begin() + (first - first_), states_.begin() + (last - first_) + 1, State::clean);
+  return stored;
+}
+
+// What stands on the disk by now, with our changed bytes over it.
+bool RecordBlock::mergeOthers(std::int32_t first, std::int32_t last) {
+  const std::size_t size = static_cast<std::size_t>(last - first + 1) * recLen;
+  if (onDisk_.size() < size) onDisk_.resize(size);
+  std::size_t got = 0;
+  if (readBlock(file_, placeOf(first), onDisk_.data(), size, got) != FileError::none || got != size) return false;
+  const char* before = before_.data() + offset(first);
+  if (std::memcmp(onDisk_.data(), before, size) == 0) return true;
+  char* ours = bytesOf(first);
+  for (std::size_t at = 0; at < size; ++at)
+    if (at % recLen < kDataBytes && ours[at] == before[at]) ours[at] = onDisk_[at];
+  return true;
+}
+
+bool RecordBlock::writeRun(std::int32_t first, std::int32_t last) {
+  if (mayWriteRecords(file_) != FileError::none) return false;
+  const bool made = stateOf(first) == State::made;
+  const std::int64_t length = fileLength(file_);
+  const std::size_t size = static_cast<std::size_t>(last - first + 1) * recLen;
+  if (writeBlock(file_, placeOf(first), {bytesOf(first), size}) == FileError::none) return true;
+  // No record is left half written.
+  if (made)
+    cutOpenFile(file_, length);
+  else
+    writeBlock(file_, placeOf(first), {onDisk_.data(), size});
+  return false;
+}
+
+}  // namespace zelko
