@@ -41,6 +41,11 @@ bool readSorted(const SortRange& range, std::int64_t first, std::size_t count, c
   return true;
 }
 
+void removeOwnName(const Text& name) {
+  setReadOnly(name, false);
+  deleteFile(name);
+}
+
 JobEnd copyWhole(OwnedFile& copy, const SortGoesOn& goesOn) {
   std::string block(static_cast<std::size_t>(kBlock), '\0');
   const std::int64_t length = std::int64_t{recCount()} * recLen;
@@ -67,8 +72,8 @@ std::optional<SortRange> rangeInMemory(std::int32_t first, std::int32_t last) {
 JobEnd makeSafetyCopy(const SortGoesOn& goesOn) {
   const Text name = besideTable(kSafetyCopy);
   OwnedFile copy;
-  if (removeOwnName(name) != FileError::none || copy.createRandom(name, recLen) != FileError::none)
-    return JobEnd::failed;
+  removeOwnName(name);
+  if (copy.createRandom(name, recLen) != FileError::none) return JobEnd::failed;
   copyPermissions(joinName(docDrive, docPath), name);
   JobEnd end = copyWhole(copy, goesOn);
   if (copy.close() != FileError::none && end == JobEnd::done) end = JobEnd::failed;
