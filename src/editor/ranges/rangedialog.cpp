@@ -15,6 +15,7 @@
 #include "editor/ranges/rangeread.h"
 #include "editor/show/sheet.h"
 #include "editor/show/showcell.h"
+#include "platform/forms/routing.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "store/records/records.h"
@@ -125,10 +126,8 @@ void frmHANI::fillBoxes() {
 // --- Keys ----------------------------------------------------------------------------------------------------
 
 void frmHANI::frmHANI_Text5_KeyDown(KeyEvent& key) {
-  held_ = key;
   if (mode != u"HTYU") return;
   if (jumpKey(key)) {
-    held_ = {};
     answerKey(0);
     key.swallow();
   } else if (key.is(key::Insert, shift::Ctrl)) {
@@ -162,14 +161,8 @@ bool frmHANI::jumpKey(const KeyEvent& key) {
   return true;
 }
 
-// A release says something only where the key went down here: not the Enter that closed a dialog above, nor the Shift
-// of a chord that has been answered. The key that opened the dialog is the exception.
 void frmHANI::frmHANI_Text5_KeyUp(KeyEvent& key) {
-  const bool opener = std::exchange(openerIsHeld_, false);
-  if (mode != u"HTYU" || (!opener && key.code != held_.code)) return;
-  const int number = opener ? 0 : questionOf(held_, 0);
-  held_ = {};
-  answerKey(number);
+  if (mode == u"HTYU") answerKey(questionOf(key, 0));
 }
 
 void frmHANI::frmHANI_KeyUp(KeyEvent& key) {
@@ -275,6 +268,7 @@ void beginRange(std::int32_t rec1, std::int32_t rec2, std::int16_t item1, std::i
   dispAll(curItem);
   dialog.fillBoxes();
   mode = u"HTYU";
+  passRelease(dialog);  // the release of the key that opened it says the range
   dialog.showModal();
 }
 

@@ -42,9 +42,7 @@ class frmHANI : public Form {
   void catchUp();
   void close();
 
-  bool leaving_ = false;      // a command uses the range up: the dialog asks for nothing any more
-  KeyEvent held_;             // the key whose release is awaited
-  bool openerIsHeld_ = true;  // the key that opened the dialog went down elsewhere
+  bool leaving_ = false;  // a command uses the range up: the dialog asks for nothing any more
 };
 
 // Opens the dialog on the range variables of rangeKind, with these corners; returns when the range is finished, dropped

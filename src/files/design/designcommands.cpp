@@ -9,7 +9,7 @@
 #include "files/picker/othertables.h"
 #include "files/picker/pickerform.h"
 #include "files/picker/pickeropening.h"
-#include "files/picker/pickerwords.h"
+#include "parts/disk/filewords.h"
 #include "platform/files/files.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
@@ -149,9 +149,7 @@ Text frmDESIGN::shapeOfChosen() const {
 }
 
 void frmDESIGN::frmDESIGN_File1_Click() {
-  if (File1.listIndex() < 0 || boxes_.sayFolderReport() || !gateOpens()) return;
-  ++composedSentences;
-  talkNow(shapeOfChosen());
+  boxes_.sayMarkedFile([this] { return shapeOfChosen(); });
 }
 
 bool frmDESIGN::readKToDesign(TextView path, TextView drive) {

@@ -1,7 +1,7 @@
 // What table design is made of, and how its controls speak.
 #include "files/design/designform.h"
 
-#include "files/picker/pickerwords.h"
+#include "parts/disk/filewords.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "store/rewrite/rewrite.h"

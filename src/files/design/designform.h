@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "files/design/designcheck.h"
-#include "files/picker/pickerboxes.h"
+#include "parts/disk/diskboxes.h"
 #include "parts/grid/celleditor.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"

@@ -9,7 +9,7 @@
 #include "files/picker/picker.h"
 #include "files/picker/pickerform.h"
 #include "files/picker/pickeropening.h"
-#include "files/picker/pickerwords.h"
+#include "parts/disk/filewords.h"
 #include "platform/files/files.h"
 #include "platform/host.h"
 #include "platform/text/number.h"

@@ -6,8 +6,7 @@
 #include "editor/show/showcell.h"
 #include "files/output/output.h"
 #include "files/output/outputname.h"
-#include "files/picker/makefolder.h"
-#include "files/picker/pickerwords.h"
+#include "parts/disk/filewords.h"
 #include "platform/files/files.h"
 #include "platform/host.h"
 #include "store/table/cursor.h"
@@ -72,7 +71,7 @@ void formHOZON::wire() {
   File1.onClick = [this] { formHOZON_File1_Click(); };
   Command1.onClick = [this] { formHOZON_Command1_Click(); };
   Command2.onClick = [this] { formHOZON_Command2_Click(); };
-  Command3.onClick = [this] { formHOZON_Command3_Click(); };
+  Command3.onClick = [this] { boxes_.makeFolderHere(); };
   Command1.isDefault = true;
   Command2.isCancel = true;
   onActivate = [this] { formHOZON_Activate(); };
@@ -84,10 +83,7 @@ void formHOZON::narrate() {
   voice.explain([this] { return markStop + openingFor(job_) + (job_ == u"CVZLKF" ? Text() : Label2.caption()); });
   voice.box(RichTextBox1, kNameBox);
   boxes_.narrate(voice);
-  voice.say(File1, [this] {
-    return u"ファイル、" + (File1.count() == 0 ? Text(kNoFileHere) : spokenName(tableOfItemFile(File1.fileName()))) +
-           u"ﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽ";
-  });
+  boxes_.narrateFiles(voice);
   for (Button* button : {&Command1, &Command2, &Command3}) voice.say(*button, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ");
 }
 
@@ -124,9 +120,7 @@ Text formHOZON::chosenName() const { return pathIn(File1.path(), tableOfItemFile
 void formHOZON::formHOZON_File1_Click() {
   if (File1.listIndex() < 0) return;
   fillName(chosenName());
-  if (boxes_.sayFolderReport() || !gateOpens()) return;
-  ++composedSentences;
-  talkNow(spokenName(tableOfItemFile(File1.fileName())) + u"ﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽ");
+  boxes_.sayMarkedFile();
 }
 
 // A name that was given with the old folder goes along.
@@ -164,12 +158,6 @@ void formHOZON::formHOZON_Command2_Click() {
   screen().unload(*this);
   if (job && job->cancelled) job->cancelled();
   if (!docPath.empty()) dispAll(curItem);
-}
-
-void formHOZON::formHOZON_Command3_Click() {
-  if (!makeFolder(Dir1.markedPath())) return;
-  boxes_.refresh();
-  Dir1.setFocus();
 }
 
 void registerOutputJob(TextView word, OutputJob job) { jobs()[Text(word)] = std::move(job); }

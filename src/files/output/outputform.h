@@ -1,7 +1,7 @@
 // The form that asks for the name of an output file.
 #pragma once
 
-#include "files/picker/pickerboxes.h"
+#include "parts/disk/diskboxes.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
 
@@ -34,7 +34,6 @@ class formHOZON : public Form {
   void formHOZON_folderChanged();
   void formHOZON_Command1_Click();
   void formHOZON_Command2_Click();
-  void formHOZON_Command3_Click();
   Text chosenName() const;
 
   DiskBoxes boxes_{Drive1, Dir1, File1};

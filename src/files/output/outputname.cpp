@@ -1,6 +1,6 @@
 #include "files/output/outputname.h"
 
-#include "files/picker/pickerwords.h"
+#include "parts/disk/filewords.h"
 
 namespace zelko {
 

@@ -3,7 +3,7 @@
 #include <filesystem>
 
 #include "files/picker/othertables.h"
-#include "files/picker/pickerwords.h"
+#include "parts/disk/filewords.h"
 #include "platform/files/files.h"
 #include "store/table/itemfile.h"
 #include "store/table/notice.h"

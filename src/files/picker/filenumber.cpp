@@ -3,6 +3,7 @@
 #include "editor/show/itemlist.h"
 #include "files/picker/pickerreference.h"
 #include "files/picker/pickerwords.h"
+#include "parts/disk/filewords.h"
 #include "platform/files/files.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
@@ -38,10 +39,7 @@ void frmFileNo::narrate() {
       u"ﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽでｸﾘｯｸやCRｷｰを叩いて、ﾌｧｲﾙを選択すると､項目ﾘｽﾄﾎﾞｯｸｽに指定ﾌｧｲﾙ内の項目が"
       u"表示されます。項目ﾘｽﾄﾎﾞｯｸｽで項目を選択し、CRｷｰを叩くと確定します。中止はｴｽｹｰﾌﾟｷｰです。");
   boxes_.narrate(voice);
-  voice.say(File1, [this] {
-    if (File1.count() == 0) return u"ファイル、" + Text(kNoFileHere) + u"ﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽ";
-    return u"ファイル、" + spokenName(tableOfItemFile(File1.text())) + u"ﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽ";
-  });
+  boxes_.narrateFiles(voice);
   voice.list(List1, u"項目ﾘｽﾄﾎﾞｯｸｽ").check(Check1, u"ﾁｪｯｸﾎﾞｯｸｽ");
   voice.say(Command1, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ").say(Command2, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ");
 }
@@ -68,9 +66,7 @@ bool frmFileNo::zdispItem() {
 void frmFileNo::frmFileNo_File1_Click() {
   if (File1.listIndex() < 0) return;
   zdispItem();
-  if (boxes_.sayFolderReport() || !gateOpens()) return;
-  ++composedSentences;
-  talkNow(spokenName(tableOfItemFile(File1.text())) + u"ﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽ");
+  boxes_.sayMarkedFile();
 }
 
 // First the file, then its item; whoever has chosen no item yet is led to the list of items.

@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "files/picker/pickerboxes.h"
+#include "parts/disk/diskboxes.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
 

@@ -3,12 +3,12 @@
 
 #include "editor/main/commands.h"
 #include "files/picker/deletetable.h"
-#include "files/picker/makefolder.h"
 #include "files/picker/pickerform.h"
 #include "files/picker/pickeritems.h"
 #include "files/picker/pickeropening.h"
 #include "files/picker/pickerreference.h"
 #include "files/picker/pickerwords.h"
+#include "parts/disk/filewords.h"
 #include "platform/files/files.h"
 #include "platform/host.h"
 #include "store/table/cursor.h"
@@ -83,10 +83,7 @@ void frmDISK::frmDISK_Command3_Click() {
 }
 
 void frmDISK::frmDISK_Command4_Click() {
-  if (!makeFolder(Dir1.markedPath())) return;
-  boxes_.refresh();
-  fillList1();
-  Dir1.setFocus();
+  if (boxes_.makeFolderHere()) fillList1();
 }
 
 void frmDISK::frmDISK_cmdNOTZLK_Click() {

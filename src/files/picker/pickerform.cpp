@@ -2,6 +2,7 @@
 #include "files/picker/pickerform.h"
 
 #include "files/picker/pickerwords.h"
+#include "parts/disk/filewords.h"
 #include "platform/host.h"
 #include "store/table/cursor.h"
 #include "voice/talk.h"

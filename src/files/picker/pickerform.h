@@ -1,7 +1,7 @@
 // The form of the file picker.
 #pragma once
 
-#include "files/picker/pickerboxes.h"
+#include "parts/disk/diskboxes.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
 

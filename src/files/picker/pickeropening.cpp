@@ -7,7 +7,7 @@
 #include "editor/show/showcell.h"
 #include "editor/show/spitem.h"
 #include "editor/show/view.h"
-#include "files/picker/pickerwords.h"
+#include "parts/disk/filewords.h"
 #include "platform/files/files.h"
 #include "platform/host.h"
 #include "store/records/records.h"

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "parts/disk/filewords.h"
+
 namespace zelko {
 
 namespace {
@@ -21,14 +23,8 @@ constexpr PickerJob kJobs[] = {
     {u"SVCread", u"Zelkoﾌｧｲﾙ指定", u"*.csv", u"読み込み(CR)", u"CSVﾌｧｲﾙ", kChoose, false},
 };
 
-// Bytes of a name that are no text, and line ends and the like, which a file name may hold.
-bool isNoCharacter(char16_t ch) { return ch < u' ' || ch == 0x7F || (ch >= 0xDC80 && ch <= 0xDCFF); }
-
-bool isLead(char16_t ch) { return ch >= 0xD800 && ch < 0xDC00; }
-
 }  // namespace
 
-const TextView kNoFileHere = u"現在のﾌｫﾙﾀﾞには該当ﾌｧｲﾙはありませんﾌｫﾙﾀﾞを変更してください";
 const TextView kCsvHint =
     u"●クリックすると項目区切り設定ウインドウが開かれます。CSV１行の項目数と､各項目の項目幅等を設定してください。\r\n"
     u"●設定後読み込むCSVファイルを指定。\r\n"
@@ -43,51 +39,10 @@ const PickerJob& pickerJob(TextView mode) {
   return found == std::end(kJobs) ? kJobs[0] : *found;
 }
 
-Text spokenName(TextView name) {
-  Text said(name);
-  for (std::size_t at = 0; at < said.size(); ++at) {
-    if (isNoCharacter(said[at]) && !(at > 0 && isLead(name[at - 1]))) said[at] = u'？';
-  }
-  return said;
-}
-
-Text tableOfItemFile(TextView itemFile) { return Text(itemFile.substr(std::min<std::size_t>(1, itemFile.size()))); }
-
-Text pathIn(TextView folder, TextView name) {
-  Text whole(folder);
-  if (!whole.ends_with(u'/')) whole += u'/';
-  return whole.append(name);
-}
-
-TextView boxWord(const Control* focused) {
-  if (!focused) return u"";
-  switch (focused->kind()) {
-    case ControlKind::driveBox:
-      return u"ﾄﾞﾗｲﾌﾞﾎﾞｯｸｽ";
-    case ControlKind::folderBox:
-      return u"ﾌｫﾙﾀﾞﾎﾞｯｸｽ";
-    case ControlKind::fileBox:
-    case ControlKind::listBox:
-      return u"ﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽ";
-    default:
-      return u"";
-  }
-}
-
 Text openingSentence(const PickerJob& job, bool listIsEmpty) {
   Text sentence = Text(job.caption) + u"フォームが開かれました。" + Text(job.prompt);
   if (listIsEmpty) sentence += kNoFileHere;
   return sentence;
-}
-
-Text folderReport(TextView folder, const std::vector<Text>& names, TextView box) {
-  Text report = spokenName(folder) + u"にﾌｫﾙﾀﾞが変更されました";
-  if (names.empty()) return report + u"ﾌｫﾙﾀﾞには該当と思われるﾌｧｲﾙはありません " + Text(box);
-  for (std::size_t at = 0; at < std::min(names.size(), kNamesInReport); ++at) {
-    if (at > 0) report += u"､";
-    report += names[at];
-  }
-  return report + u"等があります " + Text(box);
 }
 
 Text fileReport(TextView selected, TextView whereTheFocusIs) {

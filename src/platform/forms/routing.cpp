@@ -1,6 +1,9 @@
 #include "platform/forms/routing.h"
 
 #include <algorithm>
+#include <optional>
+#include <utility>
+#include <vector>
 
 #include "platform/forms/controls.h"
 #include "platform/host.h"
@@ -8,8 +11,46 @@
 namespace zelko {
 namespace {
 
-// The key that the open menu took: its release belongs to the menu too.
-int menuKey = 0;
+// A key that is down, and who took its press: the release is theirs, and nobody else's.
+struct Press {
+  int code, mask;
+  const Form* form;
+  const Control* control;  // null: whichever has the focus in the form
+};
+std::vector<Press> presses;
+int underWay = 0;  // the key whose press is being routed
+
+void forgetPress(int code) {
+  std::erase_if(presses, [code](const Press& press) { return press.code == code; });
+}
+
+std::optional<Press> takePress(int code) {
+  const auto found = std::ranges::find(presses, code, &Press::code);
+  if (found == presses.end()) return {};
+  const Press press = *found;
+  presses.erase(found);
+  return press;
+}
+
+bool isModifier(int code) { return code == key::Shift || code == key::Ctrl || code == key::Alt; }
+
+// A modifier that has made a chord says nothing of its own when it comes up.
+void notePress(int code, int mask, const Form& form) {
+  forgetPress(code);
+  if (!isModifier(code)) std::erase_if(presses, [](const Press& press) { return isModifier(press.code); });
+  presses.push_back({code, mask, &form, form.activeControl()});
+}
+
+class UnderWay {
+ public:
+  explicit UnderWay(int code) : before_(std::exchange(underWay, code)) {}
+  ~UnderWay() { underWay = before_; }
+  UnderWay(const UnderWay&) = delete;
+  UnderWay& operator=(const UnderWay&) = delete;
+
+ private:
+  int before_;
+};
 
 struct HeldKey {
   int code, mask;
@@ -51,12 +92,13 @@ bool mnemonicTook(Form& form, const KeyEvent& key) {
   if (key.mask != shift::Alt || key.code < key::Digit0 || key.code > key::letter('Z')) return false;
   auto letter = static_cast<char16_t>(key.code);
   if (MenuEntry* entry = form.menu().byMnemonic(letter)) {
-    menuKey = key.code;
+    forgetPress(key.code);
     form.menu().open(*entry);
     return true;
   }
   for (Control* control : form.controls()) {
     if (!hasMnemonic(*control, letter)) continue;
+    forgetPress(key.code);
     control->click();
     return true;
   }
@@ -144,14 +186,13 @@ bool editorMayHave(const KeyEvent& key, char16_t ch) {
 
 bool routeKeyDown(int code, int mask, char16_t ch) {
   Screen::HandlerScope scope;
-  menuKey = 0;
+  forgetPress(code);
   Form* form = screen().activeForm();
   if (!form || !screen().takesInput(*form)) return true;
   KeyEvent key{code, mask};
-  if (form->menu().highlighted()) {
-    menuKey = code;
-    return form->menu().walkKey(key);
-  }
+  if (form->menu().highlighted()) return form->menu().walkKey(key);
+  notePress(code, mask, *form);
+  const UnderWay pressing(code);
   if (shortcutTook(*form, key) || mnemonicTook(*form, key)) return true;
   Way way(*form);
   if (keyHandlersTook(*form, way, key) || navigationTook(*form, way.control(), key)) return true;
@@ -163,16 +204,29 @@ bool routeKeyDown(int code, int mask, char16_t ch) {
   return true;
 }
 
-void routeKeyUp(int code, int mask) {
+void routeKeyUp(int code) {
   Screen::HandlerScope scope;
-  if (code == menuKey) return;
+  const std::optional<Press> press = takePress(code);
   Form* form = screen().activeForm();
-  if (!form || !screen().takesInput(*form) || form->menu().highlighted()) return;
+  if (!press || !form || press->form != form) return;
+  if (!screen().takesInput(*form) || form->menu().highlighted()) return;
   Way way(*form);
-  KeyEvent key{code, mask};
+  KeyEvent key{code, press->mask};
   fire(form->onKeyUp, key);
   if (key.code == 0 || way.broken() || !way.control()) return;
-  fire(way.control()->onKeyUp, key);
+  if (!press->control || press->control == way.control()) fire(way.control()->onKeyUp, key);
+}
+
+void passRelease(const Form& form) {
+  for (Press& press : presses) {
+    if (press.code == underWay) press = {press.code, press.mask, &form, nullptr};
+  }
+}
+
+void forgetPresses() { presses.clear(); }
+
+void forgetPresses(const Form& form) {
+  std::erase_if(presses, [&form](const Press& press) { return press.form == &form; });
 }
 
 namespace {
@@ -206,7 +260,7 @@ void releaseHeldKey() {
   HeldKey* held = heldKey;
   if (!held || held->released) return;
   held->released = true;
-  routeKeyUp(held->code, held->mask);
+  routeKeyUp(held->code);
 }
 
 void pressKey(int code, int mask) { press(code, mask, characterOf(code, mask)); }

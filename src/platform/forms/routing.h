@@ -9,8 +9,15 @@ namespace zelko {
 // default and cancel buttons, key press (with `ch`, 0 for a key that types nothing), and what the control itself does
 // with the key. True when the key was used up; false leaves it to the native editor of the host.
 bool routeKeyDown(int code, int mask, char16_t ch);
-// Key up: the form's handler, then the control's. It goes to whatever has the focus now.
-void routeKeyUp(int code, int mask);
+// Key up, with the mask that the key went down with: the form's handler, then the control's. It belongs to the form and
+// the control that took the press; where these have the focus no more, where a menu or a button's Alt+letter used the
+// press up, or where a modifier has made a chord meanwhile, nobody hears of it.
+void routeKeyUp(int code);
+// The form that the key on its way opens answers the release itself, as one that walks on while the key is held.
+void passRelease(const Form& form);
+// No key is down any more, as when another program has the keyboard; or none that this form, which is going, took.
+void forgetPresses();
+void forgetPresses(const Form& form);
 
 // A whole key on a host without native editing: down, edit in the model, up.
 void pressKey(int code, int mask);

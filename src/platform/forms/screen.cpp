@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "platform/forms/form.h"
+#include "platform/forms/routing.h"
 #include "platform/host.h"
 
 namespace zelko {
@@ -135,6 +136,7 @@ void Screen::bury() {
 }
 
 void Screen::drop(Form& form) {
+  forgetPresses(form);
   std::erase(shown_, &form);
   if (active_ == &form) active_ = nullptr;
   if (activated_ == &form) activated_ = nullptr;
@@ -145,6 +147,7 @@ void Screen::reset() {
   active_ = activated_ = nullptr;
   entered_ = nullptr;
   workDepth = 0;
+  forgetPresses();
   graveyard_.clear();
   loaded_.clear();
 }

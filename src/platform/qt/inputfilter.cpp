@@ -54,6 +54,7 @@ InputFilter::InputFilter(std::function<View*(const Control&)> viewOf) : viewOf_(
 bool InputFilter::eventFilter(QObject* receiver, QEvent* event) {
   if (event->type() == QEvent::ApplicationDeactivate) {
     down_.clear();
+    forgetPresses();
     aloneModifier_ = 0;
     return false;
   }
@@ -107,7 +108,7 @@ void InputFilter::pressed(QKeyEvent& event) {
   }
   aloneModifier_ = 0;
   if (stroke.code == 0) return;
-  down_[physicalKey(event, stroke)] = stroke;
+  down_[physicalKey(event, stroke)] = stroke.code;
   bool used = true;
   guarded([&] { used = routeKeyDown(stroke.code, stroke.mask, stroke.ch); });
   if (used) return;
@@ -129,9 +130,9 @@ bool InputFilter::keyReleased(const QKeyEvent& event) {
   if (stroke.isModifier()) return modifierReleased(stroke.code);
   const auto pressed = down_.find(physicalKey(event, stroke));
   if (pressed == down_.end()) return true;  // it went down somewhere else
-  const Keystroke held = pressed->second;
+  const int held = pressed->second;
   down_.erase(pressed);
-  guarded([&held] { routeKeyUp(held.code, held.mask); });
+  guarded([held] { routeKeyUp(held); });
   return true;
 }
 
@@ -141,7 +142,7 @@ bool InputFilter::modifierReleased(int code) {
   if (std::exchange(aloneModifier_, 0) != code) return true;
   guarded([code] {
     routeKeyDown(code, shift::None, 0);
-    routeKeyUp(code, shift::None);
+    routeKeyUp(code);
   });
   return true;
 }

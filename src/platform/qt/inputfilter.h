@@ -39,8 +39,8 @@ class InputFilter : public QObject {
   void settleActivation();
 
   std::function<View*(const Control&)> viewOf_;
-  // What each key that is down was when it went down: its release may come when Shift and Ctrl are up already.
-  std::unordered_map<int, Keystroke> down_;
+  // The code that each key which is down went down with: it may be another one when Shift or NumLock has changed since.
+  std::unordered_map<int, int> down_;
   int aloneModifier_ = 0;  // Shift, Ctrl or Alt went down and nothing else did yet
   std::vector<std::unique_ptr<QEvent>> held_;
   int holding_ = 0;

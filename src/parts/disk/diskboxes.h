@@ -1,4 +1,4 @@
-// The drive box, the folder box and the file list of a picker, held together: each follows the others and speaks.
+// The drive box, the folder box and the file list of a form, held together: each follows the others and speaks.
 #pragma once
 
 #include <functional>
@@ -7,6 +7,12 @@
 #include "voice/narration.h"
 
 namespace zelko {
+
+// What is said instead where the boxes choose a folder and not a file.
+struct DiskWords {
+  Text drive, folder;                                          // in front when one of the two boxes gets the focus
+  std::function<Text(TextView folder, TextView box)> changed;  // after a change, in place of folderReport
+};
 
 class DiskBoxes {
  public:
@@ -19,8 +25,19 @@ class DiskBoxes {
   // The folder of the list with the name behind it.
   Text pathOf(TextView name) const;
 
-  // The narration of the drive box and the folder box; the list is the form's own.
+  // The narration of the drive box and the folder box.
   void narrate(Narration& voice);
+  // That of the list, where the form has nothing of its own to say of a file.
+  void narrateFiles(Narration& voice);
+  // The mark of the list has moved: what has been news before, else what `words` composes of it. Nothing without a
+  // mark.
+  void sayMarkedFile(const Sentence& words);
+  void sayMarkedFile();
+
+  // Asks for a name and makes a folder of it under the marked one, then lists it and goes to the folder box. False
+  // where none was made.
+  bool makeFolderHere();
+
   // What the two boxes add to a report: the drive, the folder.
   Text whereItStands(const Control* focused) const;
 
@@ -31,7 +48,8 @@ class DiskBoxes {
   // The user has changed the folder, and the list shows it; runs before the report.
   std::function<void()> onFolderChanged;
   // How an entry of the list is called.
-  std::function<Text(TextView)> shownName;
+  std::function<Text(TextView)> shownName = [](TextView listed) { return Text(listed); };
+  DiskWords words;
 
  private:
   void openMarkedFolder();

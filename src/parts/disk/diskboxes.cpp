@@ -1,6 +1,7 @@
-#include "files/picker/pickerboxes.h"
+#include "parts/disk/diskboxes.h"
 
-#include "files/picker/pickerwords.h"
+#include "parts/disk/filewords.h"
+#include "parts/disk/makefolder.h"
 #include "platform/forms/form.h"
 #include "store/rewrite/recovery.h"
 #include "store/table/notice.h"
@@ -81,12 +82,17 @@ bool DiskBoxes::sayFolderReport() {
   if (!gateOpens()) return true;
   folderIsNews_ = false;
   ++composedSentences;
+  const TextView box = boxWord(files_.form().activeControl());
+  if (words.changed) {
+    talkNow(words.changed(spokenName(folders_.path()), box));
+    return true;
+  }
   std::vector<Text> names;
   for (const Text& listed : files_.entries()) {
     names.push_back(spokenName(shownName(listed)));
     if (names.size() == kNamesInReport) break;
   }
-  talkNow(folderReport(files_.path(), names, boxWord(files_.form().activeControl())));
+  talkNow(folderReport(files_.path(), names, box));
   return true;
 }
 
@@ -107,12 +113,37 @@ void DiskBoxes::driveKeyDown(KeyEvent& key) {
 
 void DiskBoxes::narrate(Narration& voice) {
   voice.say(drives_, [this] {
-    return u"ドライブ、" + spokenName(drives_.text()) + u"ドライブﾎﾞｯｸｽ" + u"矢印ｷｰでﾄﾞﾗｲﾌﾞ変更 CRで確定します";
+    return words.drive + u"ドライブ、" + spokenName(drives_.text()) + u"ドライブﾎﾞｯｸｽ" +
+           u"矢印ｷｰでﾄﾞﾗｲﾌﾞ変更 CRで確定します";
   });
   voice.say(folders_, [this] {
-    return u"フォルダ、" + spokenName(folders_.path()) + u"ﾌｫﾙﾀﾞﾎﾞｯｸｽ" +
+    return words.folder + u"フォルダ、" + spokenName(folders_.path()) + u"ﾌｫﾙﾀﾞﾎﾞｯｸｽ" +
            u"矢印ｷｰでﾌｫﾙﾀﾞを選択し、CRｷｰを叩くとﾌｫﾙﾀﾞが変更されます";
   });
+}
+
+void DiskBoxes::narrateFiles(Narration& voice) {
+  voice.say(files_, [this] {
+    const Text name = files_.count() == 0 ? Text(kNoFileHere) : spokenName(shownName(files_.fileName()));
+    return u"ファイル、" + name + u"ﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽ";
+  });
+}
+
+void DiskBoxes::sayMarkedFile(const Sentence& sentence) {
+  if (files_.listIndex() < 0 || sayFolderReport() || !gateOpens()) return;
+  ++composedSentences;
+  talkNow(sentence());
+}
+
+void DiskBoxes::sayMarkedFile() {
+  sayMarkedFile([this] { return spokenName(shownName(files_.fileName())) + u"ﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽ"; });
+}
+
+bool DiskBoxes::makeFolderHere() {
+  if (!makeFolder(folders_.markedPath())) return false;
+  refresh();
+  folders_.setFocus();
+  return true;
 }
 
 Text DiskBoxes::whereItStands(const Control* focused) const {

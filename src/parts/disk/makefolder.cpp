@@ -1,6 +1,6 @@
-#include "files/picker/makefolder.h"
+#include "parts/disk/makefolder.h"
 
-#include "files/picker/pickerwords.h"
+#include "parts/disk/filewords.h"
 #include "platform/files/files.h"
 #include "store/table/notice.h"
 #include "voice/dialogs.h"
