@@ -1,11 +1,14 @@
 #include "app/wiring.h"
 
 #include "editor/registereditor.h"
+#include "files/csv/csvform.h"
 #include "files/design/design.h"
 #include "files/output/output.h"
 #include "files/picker/picker.h"
 #include "files/start/help.h"
 #include "files/start/startscreen.h"
+#include "tablejobs/blocks/blocks.h"
+#include "tablejobs/sort/sortcommands.h"
 #include "voice/dialogs.h"
 #include "voice/narration.h"
 
@@ -19,6 +22,9 @@ void wireProgram() {
   registerHelp();
   registerTableDesign();
   registerOutputFiles();
+  registerCsv();
+  registerSorting();
+  registerBlocks();
   narrateMenus();
 }
 

@@ -5,7 +5,7 @@
 #include "files/csv/csvread.h"
 #include "files/output/outputending.h"
 #include "files/output/outputtable.h"
-#include "files/picker/pickerwords.h"
+#include "parts/disk/filewords.h"
 #include "platform/files/files.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
@@ -21,7 +21,8 @@ namespace zelko {
 namespace {
 
 constexpr TextView kExplanation =
-    u"。編集中の表を、ＣＳＶファイルにするフォームです。１記録が１行になり、項目わ　引用符で囲まれ、コンマで区切られます。"
+    u"。編集中の表を、ＣＳＶファイルにするフォームです。１記録が１行になり、項目わ　引用符で囲まれ、コンマで区切られま"
+    u"す。"
     u"表計算ソフト用の　チェックボックスに　チェックすると、文字コードわ　ＵＴＦ-8になり、最初の行に　項目名が付き、"
     u"データの前後の空白わ　取り除かれます。CRを叩くと　作成が始まり、ｴｽｹｰﾌﾟｷｰで　中止します。";
 
@@ -35,8 +36,8 @@ void openExport() {
 
 frmCSV::frmCSV() : Form(kName, u"CSVファイルの作成"), output_(csvNameOf(joinName(docDrive, docPath))) {
   Label4.setCaption(spokenName(output_));
-  for (Control* control : {static_cast<Control*>(&Label2), static_cast<Control*>(&Label3), static_cast<Control*>(&Check1),
-                           static_cast<Control*>(&Command1)})
+  for (Control* control : {static_cast<Control*>(&Label2), static_cast<Control*>(&Label3),
+                           static_cast<Control*>(&Check1), static_cast<Control*>(&Command1)})
     control->place = Place::newRow;
   Command1.onClick = [this] { frmCSV_Command1_Click(); };
   Command2.onClick = [this] { frmCSV_Command2_Click(); };
@@ -58,8 +59,8 @@ void frmCSV::frmCSV_Activate() {
   if (opened_) return;
   opened_ = true;
   if (talkMode != 0) waitSec(talkGap);
-  talkS(*this, caption() + u"フォームが開かれました。" + Label1.caption() + Label2.caption() + Label3.caption() + markPause +
-                   spokenName(output_));
+  talkS(*this, caption() + u"フォームが開かれました。" + Label1.caption() + Label2.caption() + Label3.caption() +
+                   markPause + spokenName(output_));
 }
 
 bool frmCSV::mayWrite() const {
@@ -107,10 +108,8 @@ void frmCSV::close(JobEnd end) {
     talkCtl(u"作業終了しました");
     if (talkMode != 0) waitSec(talkGap);
   }
-  {
-    const Silence silence;
-    screen().unload(*this);
-  }
+  talkLast = 0;
+  screen().unload(*this);
   endJob(end, true, end == JobEnd::stopped ? u"中止しました。CSVﾌｧｲﾙは作られていません。" : u"");
 }
 

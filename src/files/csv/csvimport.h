@@ -20,7 +20,8 @@ struct CsvImported {
   CsvCounts counts;
 };
 
-// goesOn is told the bytes that were read. What was written before a stop stays; after a failure the table is as it was.
+// goesOn is told the bytes that were read. What was written before a stop stays; after a failure the table is as it
+// was.
 CsvImported importCsv(const CsvImport& import, const CsvGoesOn& goesOn);
 // What came of it, for the ear.
 Text importedWords(const CsvImported& done);

@@ -15,13 +15,14 @@ namespace zelko {
 namespace {
 
 constexpr std::size_t kMostItems = kDataBytes;  // a byte each
-constexpr std::size_t kLongestName = 248;  // what an item file gives back
+constexpr std::size_t kLongestName = 248;       // what an item file gives back
 
 // What only a heading would say.
-constexpr TextView kHeadings[] = {
-    u"ID",   u"No",   u"No.",   u"NO",       u"番号",       u"氏名",   u"名前",       u"ふりがな", u"フリガナ", u"ﾌﾘｶﾞﾅ", u"住所",
-    u"電話", u"TEL",  u"郵便番号", u"電話番号", u"メール",     u"年齢",   u"性別",       u"生年月日", u"日付",     u"備考",  u"会社",
-    u"部署", u"品名", u"数量",  u"単価",     u"金額",       u"合計",   u"点数",       u"name",     u"Name",     u"address"};
+constexpr TextView kHeadings[] = {u"ID",       u"No",       u"No.",   u"NO",     u"番号",     u"氏名", u"名前",
+                                  u"ふりがな", u"フリガナ", u"ﾌﾘｶﾞﾅ", u"住所",   u"電話",     u"TEL",  u"郵便番号",
+                                  u"電話番号", u"メール",   u"年齢",  u"性別",   u"生年月日", u"日付", u"備考",
+                                  u"会社",     u"部署",     u"品名",  u"数量",   u"単価",     u"金額", u"合計",
+                                  u"点数",     u"name",     u"Name",  u"address"};
 
 // A number, a date, a time, a telephone number: digits with what stands between them.
 bool looksLikeNumber(std::string_view field) {

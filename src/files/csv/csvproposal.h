@@ -10,9 +10,9 @@
 namespace zelko {
 
 struct CsvProposal {
-  std::vector<ItemLine> items;  // none for a file without a line
-  bool heading = false;         // the first line gives the names
-  bool narrowed = false;        // the longest cells don't fit into a record together: the widest items are narrower
+  std::vector<ItemLine> items;    // none for a file without a line
+  bool heading = false;           // the first line gives the names
+  bool narrowed = false;          // the longest cells don't fit into a record together: the widest items are narrower
   std::int64_t passedFields = 0;  // of the longest line, behind the last item that a table can have
 };
 
@@ -25,7 +25,7 @@ class CsvSurvey {
 
  private:
   struct Field {
-    std::string first;           // the text of the first line
+    std::string first;                       // the text of the first line
     std::size_t firstWidth = 0, widest = 0;  // in bytes of Shift-JIS; the widest behind the first line
     std::int64_t filled = 0, numbers = 0;    // behind the first line
     bool firstComesAgain = false;
@@ -40,8 +40,8 @@ class CsvSurvey {
   std::vector<Field> fields_;
 };
 
-// The widths as they are where their sum fits into a record; else the widest are made equal and as wide as there is room.
-// True where that was needed.
+// The widths as they are where their sum fits into a record; else the widest are made equal and as wide as there is
+// room. True where that was needed.
 bool fitWidths(std::vector<ItemLine>& items);
 
 }  // namespace zelko

@@ -26,8 +26,8 @@ void writeUnquoted(std::string_view quoted, std::string& out) {
   out.clear();
   for (std::size_t at = 0; at < quoted.size(); ++at) {
     const char byte = quoted[at];
-    const bool pair = at + 1 < quoted.size() &&
-                      ((byte == '"' && quoted[at + 1] == '"') || (byte == '\r' && quoted[at + 1] == '\n'));
+    const bool pair =
+        at + 1 < quoted.size() && ((byte == '"' && quoted[at + 1] == '"') || (byte == '\r' && quoted[at + 1] == '\n'));
     if (pair) ++at;
     out += isLineEnd(byte) ? ' ' : byte;
   }
@@ -148,7 +148,8 @@ bool Utf8Judge::take(std::string_view block) {
   return !broken_ && !marked_ && fileEnd == std::string_view::npos;
 }
 
-// What may follow the first byte, so that no character has two forms, none is half of a pair and none lies beyond the last.
+// What may follow the first byte, so that no character has two forms, none is half of a pair and none lies beyond the
+// last.
 void Utf8Judge::takeByte(unsigned char byte) {
   if (pending_ > 0) {
     broken_ = byte < lowest_ || byte > highest_;

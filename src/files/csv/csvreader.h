@@ -17,8 +17,8 @@ using ByteSource = std::function<std::size_t(char* out, std::size_t size)>;
 class CsvLine {
  public:
   std::size_t fields() const { return fields_.size(); }
-  // Field `number` from 0, trimmed, without the quotes that it stood in; empty beyond the last one. Valid until the next
-  // line is read.
+  // Field `number` from 0, trimmed, without the quotes that it stood in; empty beyond the last one. Valid until the
+  // next line is read.
   std::string_view getSVCdata(std::size_t number) const;
 
  private:
@@ -28,7 +28,8 @@ class CsvLine {
   std::size_t writtenCount_ = 0;
 };
 
-// Lines end at CR LF, LF or CR; a last line without an end counts; ^Z ends the file. A mark of UTF-8 at the head is passed.
+// Lines end at CR LF, LF or CR; a last line without an end counts; ^Z ends the file. A mark of UTF-8 at the head is
+// passed.
 //
 // Commas alone part the fields; a field that begins and ends with a quote loses both, a lone quote stays. Where quotes
 // protect, a pair that is properly closed (behind it a comma, the end of the line or of the file) also keeps the commas

@@ -6,8 +6,8 @@
 
 namespace zelko {
 
-// False where the bytes hold half a character, a pair without a character or one of several codes of a character that is
-// not the usual one.
+// False where the bytes hold half a character, a pair without a character or one of several codes of a character that
+// is not the usual one.
 bool survivesConversion(std::string_view bytes);
 // What text in Shift-JIS becomes when it is read as text and written again: most often the bytes themselves, which are
 // then given as they are; `scratch` holds them where they changed.

@@ -4,7 +4,7 @@
 
 #include "files/output/outputending.h"
 #include "files/picker/deletetable.h"
-#include "files/picker/pickerwords.h"
+#include "parts/disk/filewords.h"
 #include "platform/files/blockfiles.h"
 #include "store/rewrite/rewrite.h"
 #include "store/table/itemfile.h"
@@ -29,8 +29,9 @@ bool hasShapeOfOpenTable(const Text& fullName) {
 
 bool mayAppend(const Text& fullName) {
   if (lengthOf(fullName) <= 0 || hasShapeOfOpenTable(fullName)) return true;
-  return askYesNo(spokenName(fullName) + u"は、項目区切りの違うﾌｧｲﾙです。記録を追加すると、項目区切りは編集中の表のものに"
-                                         u"なります。追加しますか。",
+  return askYesNo(spokenName(fullName) +
+                      u"は、項目区切りの違うﾌｧｲﾙです。記録を追加すると、項目区切りは編集中の表のものに"
+                      u"なります。追加しますか。",
                   kConfirm);
 }
 
@@ -49,8 +50,7 @@ bool OutputTable::opened(FileError error) const {
 }
 
 bool OutputTable::mayUse(const Text& fullName) const {
-  return !refusedAsOpenTable(fullName) &&
-         opened(mayTakeOutput(fullName) ? FileError::none : FileError::pathAccess);
+  return !refusedAsOpenTable(fullName) && opened(mayTakeOutput(fullName) ? FileError::none : FileError::pathAccess);
 }
 
 bool OutputTable::open(const Text& fullName) {
@@ -63,7 +63,8 @@ bool OutputTable::replace(const Text& fullName) {
   fullName_ = fullName;
   unfinished_ = fullName.substr(0, fullName.rfind(u'/') + 1) + Text(kUnfinished);
   if (!mayUse(fullName)) return false;
-  if (fileExists(fullName) && !askYesNo(spokenName(fullName) + u"は既にあります。上書きしますか。", kConfirm)) return false;
+  if (fileExists(fullName) && !askYesNo(spokenName(fullName) + u"は既にあります。上書きしますか。", kConfirm))
+    return false;
   deleteFile(unfinished_);
   return opened(records_.create(unfinished_));
 }

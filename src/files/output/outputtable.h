@@ -14,8 +14,8 @@ class OutputTable {
   // The same for a table that takes the place of the old one when it is whole; an old one is asked about.
   bool replace(const Text& fullName);
   RecordAppender& records() { return records_; }
-  // All of it is on the disk, the item file too: that of the open table's items, or another one. False, nothing told and
-  // all taken back, where something failed.
+  // All of it is on the disk, the item file too: that of the open table's items, or another one. False, nothing told
+  // and all taken back, where something failed.
   bool finish();
   bool finish(const TableDescription& table);
   void takeBack() { records_.takeBack(); }

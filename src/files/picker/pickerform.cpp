@@ -1,10 +1,13 @@
 // What the picker is made of, and how its controls speak.
 #include "files/picker/pickerform.h"
 
+#include <algorithm>
+
 #include "files/picker/pickerwords.h"
 #include "parts/disk/filewords.h"
 #include "platform/host.h"
 #include "store/table/cursor.h"
+#include "voice/dialogs.h"
 #include "voice/talk.h"
 
 namespace zelko {
@@ -38,6 +41,8 @@ void frmDISK::writeHints() {
   Dir1.place = Place::sameRow;
   Text1.screenName = u"選択ﾌｧｲﾙ名";
   Label2.place = Place::newRow;
+  Check1.place = Place::newRow;
+  Check1.setValue(1);
   Command1.place = Place::newRow;
   Text2.place = Place::newRow;
   File1.labelledBy = &Label2;
@@ -73,6 +78,7 @@ void frmDISK::narrate() {
   voice.explain([this] { return pickerHelp(*job_); });
   boxes_.narrate(voice);
   voice.say(File1, listSentence).say(List1, listSentence).box(Text1, u"選択ﾌｧｲﾙ名ﾃｷｽﾄﾎﾞｯｸｽ");
+  voice.check(Check1, u"ﾁｪｯｸﾎﾞｯｸｽ");
   for (Button* button : {&Command1, &Command2, &Command3, &Command4, &cmdNOTZLK}) voice.say(*button, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ");
 }
 
@@ -88,12 +94,31 @@ void frmDISK::takeJob() {
     control->setVisible(choosesTable || allFiles);
   for (Control* control : {static_cast<Control*>(&Command2), static_cast<Control*>(&Text2)})
     control->setVisible(choosesTable || job_->mode == u"SVCread");
+  Check1.setVisible(job_->mode == u"SVCread");
   File1.setPattern(job_->pattern);
   if (allFiles != wasAllFiles) File1.setListIndex(-1);
   File1.setVisible(job_->mode != u"REF");
   List1.setVisible(job_->mode == u"REF");
   fillList1();
   Text1.setText({});
+}
+
+void frmDISK::choose(const Text& file) {
+  const Silence silence;
+  const std::size_t name = file.rfind(u'/') + 1;
+  boxes_.open(file.substr(0, name));
+  const auto& entries = File1.entries();
+  const auto found = std::ranges::find(entries, TextView(file).substr(name));
+  if (found == entries.end()) return;
+  File1.setListIndex(static_cast<int>(found - entries.begin()));
+  Text1.setText(*found);
+  File1.setFocus();
+}
+
+void frmDISK::sayJob() const {
+  const Text marked = ownName(chosenEntry());
+  const Text file = list().count() == 0 ? Text(kNoFileHere) : spokenName(marked);
+  talkBehindDialog(Label2.caption() + markPause + Text(job_->prompt) + file + u"ﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽ");
 }
 
 void frmDISK::fillList1() {

@@ -2,7 +2,7 @@
 
 #include "files/output/outputending.h"
 #include "files/output/outputtable.h"
-#include "files/picker/pickerwords.h"
+#include "parts/disk/filewords.h"
 #include "parts/job/job.h"
 #include "parts/ranges/rangetext.h"
 #include "platform/files/blockfiles.h"
@@ -29,7 +29,8 @@ Text bareName(TextView name) { return Text(name.substr(name.rfind(u'/') + 1)); }
 
 // A bare name lies beside the table, one without an extension gets its own. Empty where nothing was entered.
 Text askOutputName() {
-  Text name = trimmed(talkAsk(u"出力ファイル名は,（パスを含めて記述）", u"抽出ファイル名の入力", besideTable(u"extract.txt")));
+  Text name =
+      trimmed(talkAsk(u"出力ファイル名は,（パスを含めて記述）", u"抽出ファイル名の入力", besideTable(u"extract.txt")));
   if (trimmed(bareName(name)).empty()) return {};
   if (bareName(name).find(u'.') == Text::npos) name += u".TXT";
   if (!name.starts_with(u'/')) name = besideTable(name);
@@ -71,18 +72,17 @@ void tellLeftOut(std::size_t items) {
 }
 
 void endExtraction(FrmBROCK& dialog, const Text& fullName) {
-  askWhereToWork(u"元のﾌｧｲﾙで作業しますか、抽出ﾌｧｲﾙにいきますか。元のﾌｧｲﾙの場合　はい　、抽出ﾌｧｲﾙの場合 いいえ "
-                 u"を押して下さい。",
-                 u"作業終了しました!");
+  askWhereToWork(
+      u"元のﾌｧｲﾙで作業しますか、抽出ﾌｧｲﾙにいきますか。元のﾌｧｲﾙの場合　はい　、抽出ﾌｧｲﾙの場合 いいえ "
+      u"を押して下さい。",
+      u"作業終了しました!");
   mode.clear();
   if (msgAnswer == kNo) {
     workInOutput(fullName, dialog);
     return;
   }
-  {
-    const Silence silence;
-    screen().unload(dialog);
-  }
+  talkLast = 0;
+  screen().unload(dialog);
   endJob(JobEnd::done, false, {});
 }
 

@@ -1,5 +1,6 @@
 #include "tablejobs/blocks/blockform.h"
 
+#include "parts/grid/cellfault.h"
 #include "parts/ranges/rangetext.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
@@ -24,7 +25,8 @@ FrmBROCK::FrmBROCK() : Form(kName, u"多記録、項目ﾌﾞﾛｯｸ指定") {
   Label1.setCaption(kExplanation);
   Text1.labelledBy = &Label2;
   Text2.labelledBy = &Label3;
-  for (Control* control : {static_cast<Control*>(&Label2), static_cast<Control*>(&Label3), static_cast<Control*>(&Command1)})
+  for (Control* control :
+       {static_cast<Control*>(&Label2), static_cast<Control*>(&Label3), static_cast<Control*>(&Command1)})
     control->place = Place::newRow;
   Text1.onChange = [this] { FrmBROCK_Change(Text1, lastRecords_); };
   Text2.onChange = [this] { FrmBROCK_Change(Text2, lastItems_); };
@@ -56,7 +58,7 @@ void FrmBROCK::FrmBROCK_Change(TextBox& box, Text& previous) {
     talkRichChange(box, previous);
 }
 
-// False after the message; the box has the focus again, without a word.
+// False after the message; the box has the focus again.
 bool FrmBROCK::isRange(TextBox& box, int kind, TextView title) {
   const Text range = trimmed(box.content());
   if (range.empty()) return true;
@@ -68,9 +70,7 @@ bool FrmBROCK::isRange(TextBox& box, int kind, TextView title) {
   Text rest = range, message;
   checkRangeText(rest, message, kind);
   if (message.empty()) return true;
-  showOK(message, title);
-  const Silence silence;
-  box.setFocus();
+  tellCellFault({{}, message, Text(title)}, box);
   return false;
 }
 

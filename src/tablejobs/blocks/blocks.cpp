@@ -1,14 +1,14 @@
 #include "tablejobs/blocks/blocks.h"
 
+#include "editor/main/commands.h"
+#include "parts/job/job.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "store/records/records.h"
 #include "store/table/cursor.h"
-#include "parts/job/job.h"
 #include "tablejobs/blocks/blockextract.h"
 #include "tablejobs/blocks/blockform.h"
 #include "tablejobs/blocks/recordblock.h"
-#include "editor/main/commands.h"
 #include "voice/talk.h"
 
 namespace zelko {

@@ -13,8 +13,8 @@ struct BlockRanges {
 };
 
 // Asks for them in the dialog, for a job of another floor: "PRINT", or a word of the statistics that contains "MLINE",
-// for which no records become "1-" and their count, and no items those behind the ID item. `mode` is the word meanwhile.
-// nullopt where the user gave up.
+// for which no records become "1-" and their count, and no items those behind the ID item. `mode` is the word
+// meanwhile. nullopt where the user gave up.
 std::optional<BlockRanges> askBlockRanges(TextView word);
 
 // mnuMBROCK, mnuBROCK and the form.

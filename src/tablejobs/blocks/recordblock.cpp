@@ -63,10 +63,8 @@ void closeAndEnd(JobEnd end, const Text& fullName, const Text& words) {
     workInOutput(fullName, form<formHOZON>());
     return;
   }
-  {
-    const Silence silence;
-    closeOutputDialog();
-  }
+  talkLast = 0;
+  closeOutputDialog();
   endJob(end, false, end == JobEnd::done ? Text() : words);
 }
 

@@ -21,10 +21,13 @@ constexpr int kCharacter = 120;  // twips
 constexpr int kListCode = 95;
 
 constexpr TextView kExplanation =
-    u"。複数の項目を　並べ替えの　キーにするフォームです。ヒョウの１行が　ひとつのキーで、上の行ほど　優先度が　高くなります。"
+    u"。複数の項目を　並べ替えの　キーにするフォームです。ヒョウの１行が　ひとつのキーで、上の行ほど　優先度が　高くな"
+    u"ります。"
     u"各行に　項目番号と、昇順わＡ、降順わＤを　記入してください。"
-    u"リターンキーで　項目番号、昇順降順、次の行の順に　書き込みセルが移動します。上下の矢印キーで　行が移動し、最後の行で"
-    u"下矢印をたたくと　行が増えます。シフト　コントロール　インサートで　行の挿入、シフト　コントロール　デリートで　行の削除、"
+    u"リターンキーで　項目番号、昇順降順、次の行の順に　書き込みセルが移動します。上下の矢印キーで　行が移動し、最後の"
+    u"行で"
+    u"下矢印をたたくと　行が増えます。シフト　コントロール　インサートで　行の挿入、シフト　コントロール　デリートで　"
+    u"行の削除、"
     u"コントロール　Ｌで　項目一覧です。"
     u"タブキーで　実行ボタンに移動し　CRを叩くと　並べ替えが始まります。中止わ　ｴｽｹｰﾌﾟｷｰです。";
 
@@ -55,7 +58,8 @@ frmMSORT::frmMSORT() : Form(kName, u"多重記録並べかえ") {
     Grid1.setCell(1, kItem);
   });
   wireCells();
-  for (Control* control : {static_cast<Control*>(&Grid1), static_cast<Control*>(&Text1), static_cast<Control*>(&Command1)})
+  for (Control* control :
+       {static_cast<Control*>(&Grid1), static_cast<Control*>(&Text1), static_cast<Control*>(&Command1)})
     control->place = Place::newRow;
   Text1.labelledBy = &Label2;
   Command1.onClick = [this] { frmMSORT_Command1_Click(); };
@@ -95,7 +99,7 @@ void frmMSORT::wireCells() {
 void frmMSORT::narrate() {
   Narration voice(*this);
   voice.explain(kExplanation);
-  voice.box(Text1, [this] { return cellSentence(cells_.row(), cells_.col()) + u"ﾃｷｽﾄﾎﾞｯｸｽ"; });
+  voice.box(Text1, [this] { return cellSentence(cells_.row(), cells_.col()); });
   voice.say(Command1, [] { return frmMSORT_Command1_GotFocus(); }).say(Command2, u"キャンセルコマンドボタン");
 }
 
@@ -136,12 +140,14 @@ Text frmMSORT::promptOf(int row, int col) const {
 
 Text frmMSORT::cellSentence(int row, int col) const {
   const Text text = cells_.textAt(row, col);
-  const Text head = (text.empty() ? Text(u"ブランク") : text) + markStop + u"優先度" + decimal(row) + markPause;
-  if (col == kItemName) return head + u"項目名";
-  return head + promptOf(row, col) + (col == kItem ? u"ﾆｭｳﾘｮｸｼﾃｸﾀﾞｻｲ" : u"ｼﾃｸﾀﾞｻｲ");
+  const Text head = (text.empty() ? Text(u"ブランク") : text) + markStop + u"セルニュウリョクテキストボックス" +
+                    markPause + u"優先度" + decimal(row) + markPause + promptOf(row, col);
+  if (col == kItemName) return head;
+  return head + (col == kItem ? u"　ﾆｭｳﾘｮｸｼﾃｸﾀﾞｻｲ" : u"　ｼﾃｸﾀﾞｻｲ");
 }
 
 void frmMSORT::enableButtons(bool enabled) {
+  const Silence silence;
   Command1.setEnabled(enabled);
   Command2.setEnabled(enabled);
 }

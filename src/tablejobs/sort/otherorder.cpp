@@ -13,9 +13,7 @@ constexpr std::int32_t kStretch = 1 << 20;
 // taken.
 class KeyIndex {
  public:
-  explicit KeyIndex(std::size_t records) : heads_(std::bit_ceil(records + 1), kNone) {
-    entries_.reserve(records);
-  }
+  explicit KeyIndex(std::size_t records) : heads_(std::bit_ceil(records + 1), kNone) { entries_.reserve(records); }
 
   void add(std::int32_t record, TextView key) { entries_.push_back({hashOf(key), record, kNone}); }
 
@@ -105,7 +103,8 @@ class Ordering {
     order_.notFound = static_cast<std::int32_t>(std::ranges::count(order_.records, 0u));
     order_.found = listed - order_.notFound;
     for (std::size_t record = 0; record < gone_.size(); ++record)
-      if (!gone_[record]) order_.records.push_back(static_cast<std::uint32_t>(job_.first) + static_cast<std::uint32_t>(record));
+      if (!gone_[record])
+        order_.records.push_back(static_cast<std::uint32_t>(job_.first) + static_cast<std::uint32_t>(record));
     order_.kept = static_cast<std::int32_t>(order_.records.size()) - listed;
   }
 

@@ -10,8 +10,8 @@
 
 namespace zelko {
 
-// One record on the way: its number, its key as it is compared (trimmed, its case taken away where that does not count),
-// and whether the whole record is blank. False stops the way.
+// One record on the way: its number, its key as it is compared (trimmed, its case taken away where that does not
+// count), and whether the whole record is blank. False stops the way.
 using KeyVisit = std::function<bool(std::int32_t record, const Text& key, bool blank)>;
 // Goes over records `first` to `last` in their order; false where a visit stopped it or a record can't be read.
 using KeyWalk = std::function<bool(std::int32_t first, std::int32_t last, const KeyVisit& visit)>;
@@ -30,9 +30,9 @@ struct OtherOrder {
   std::int32_t found = 0, notFound = 0, kept = 0;  // listed and there; listed and not there; not listed
 };
 
-// For each key of the order, blank ones skipped, the first record of the range with that key that is not taken yet, else a
-// blank record; behind them the records that are left, but for blank ones. nullopt where a walk ended early. The time is
-// linear in both counts; a million records of the range take 12 MB, more of them go through in stretches.
+// For each key of the order, blank ones skipped, the first record of the range with that key that is not taken yet,
+// else a blank record; behind them the records that are left, but for blank ones. nullopt where a walk ended early. The
+// time is linear in both counts; a million records of the range take 12 MB, more of them go through in stretches.
 std::optional<OtherOrder> orderAsListed(const OtherOrderJob& job);
 
 }  // namespace zelko

@@ -45,8 +45,7 @@ void sortRecords() {
 
 void sortIntoFile(const Text& fullName) {
   if (!confirmSort()) return leaveSortOutput();
-  const auto key =
-      askSortKey(u"昇順 あ、い、う、え.　の順 ですか？\r   降順 の場合は いいえ を選択して下さい");
+  const auto key = askSortKey(u"昇順 あ、い、う、え.　の順 ですか？\r   降順 の場合は いいえ を選択して下さい");
   if (!key) return leaveSortOutput();
   runSortOutput(fullName, {*key},
                 u"元のﾌｧｲﾙで作業しますか。元のﾌｧｲﾙの場合 はい、並べ替えﾌｧｲﾙの場合 いいえ を押して下さい。");
@@ -64,10 +63,8 @@ void openSortIntoFile() {
 
 void leaveSortOutput() {
   mode.clear();
-  {
-    const Silence silence;
-    closeOutputDialog();
-  }
+  talkLast = 0;
+  closeOutputDialog();
   leaveSort();
 }
 
@@ -93,10 +90,9 @@ bool runSortOutput(const Text& fullName, const std::vector<SortKey>& keys, TextV
     workInOutput(fullName, form<formHOZON>());
     return true;
   }
-  {
-    const Silence silence;
-    closeOutputDialog();
-  }
+  // Where the user is now is news, whatever the dialog said a moment ago.
+  talkLast = 0;
+  closeOutputDialog();
   const bool stopped = end == JobEnd::stopped;
   endJob(end, false, stopped ? u"中止しました。元のﾌｧｲﾙはそのままです。並べ替えﾌｧｲﾙは作られていません。" : u"");
   return true;

@@ -96,10 +96,8 @@ void closeSortForm() {
 
 void leaveSortTable(frmMSORT& table) {
   mode.clear();
-  {
-    const Silence silence;
-    screen().unload(table);
-  }
+  talkLast = 0;
+  screen().unload(table);
   leaveSort();
 }
 

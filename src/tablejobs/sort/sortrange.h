@@ -39,7 +39,7 @@ class SortRange {
 
  private:
   struct Place {
-    std::uint64_t head;   // the first four units of the key, for a quick comparison
+    std::uint64_t head;    // the first four units of the key, for a quick comparison
     std::uint32_t source;  // which of the loaded records stands here
   };
   const Place& at(std::int32_t place) const { return places_[static_cast<std::size_t>(place - first_)]; }

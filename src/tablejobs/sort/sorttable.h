@@ -14,7 +14,7 @@ struct SortRow {
 // The wrong cell of the first row that has one.
 struct SortTableFault {
   Text message;
-  int row = 0;            // from 0
+  int row = 0;             // from 0
   bool direction = false;  // it is the direction
 };
 
