@@ -1,5 +1,7 @@
 #include "app/commandline.h"
 
+#include <filesystem>
+
 namespace zelko {
 
 const char* const kUsage =
@@ -30,6 +32,15 @@ bool readFlag(const std::string& argument, CommandLine& line) {
   else
     return false;
   return true;
+}
+
+// What is opened loses the blanks at its ends, as a typed name would, and then a pair of quotes: a file whose name has
+// such blanks goes between them.
+void guardBlanks(CommandLine& line) {
+  if (line.table.empty() || (line.table.front() != ' ' && line.table.back() != ' ')) return;
+  std::error_code failed;
+  if (std::filesystem::exists(std::filesystem::path(line.folder) / line.table, failed))
+    line.table = '"' + line.table + '"';
 }
 
 CommandLine complaint(CommandLine line, std::string text) {
@@ -69,6 +80,7 @@ CommandLine readCommandLine(const std::vector<std::string>& arguments) {
   }
   if (replay && line.action == CommandLine::Action::run) line.action = CommandLine::Action::replay;
   if (!replay && !line.folder.empty()) return complaint(line, "--dir goes with --replay");
+  guardBlanks(line);
   return line;
 }
 

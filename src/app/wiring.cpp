@@ -9,6 +9,7 @@
 #include "files/start/startscreen.h"
 #include "tablejobs/blocks/blocks.h"
 #include "tablejobs/sort/sortcommands.h"
+#include "tablejobs/replace/registerreplace.h"
 #include "voice/dialogs.h"
 #include "voice/narration.h"
 
@@ -25,6 +26,7 @@ void wireProgram() {
   registerCsv();
   registerSorting();
   registerBlocks();
+  registerReplacement();
   narrateMenus();
 }
 

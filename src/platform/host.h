@@ -25,6 +25,8 @@ class Printer {
   virtual ~Printer() = default;
   // False, and nothing begun, where there is no printer. Page 1 begins with the first text.
   virtual bool begin() = 0;
+  // As begin(), for a PDF file of that path in place of paper; needs no printer. False where there is no way to one.
+  virtual bool beginFile(TextView /*path*/) { return false; }
   virtual void text(double x, double y, const Font& font, TextView text) = 0;
   virtual double textWidth(const Font& font, TextView text) = 0;
   virtual double textHeight(const Font& font) = 0;

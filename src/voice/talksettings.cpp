@@ -1,6 +1,6 @@
 // The two speech settings that outlive a run, each a number on one line.
 #include "platform/fault.h"
-#include "platform/files/files.h"
+#include "platform/files/workfiles.h"
 #include "platform/text/number.h"
 #include "platform/text/printline.h"
 #include "voice/talk.h"
@@ -10,10 +10,11 @@ namespace zelko {
 namespace {
 
 constexpr int kFile = 2;
+constexpr std::int64_t kLongestFile = 4096;
 
 // A number outside 0 to `highest`, like a file that can't be read, is no setting.
 std::int16_t readSetting(TextView name, std::int16_t highest) {
-  if (openInput(kFile, appDir + Text(name)) != FileError::none) return 0;
+  if (openInput(kFile, appDir + Text(name), kLongestFile) != FileError::none) return 0;
   Text field;
   const FileError error = readField(kFile, field);
   closeFile(kFile);
@@ -27,7 +28,9 @@ std::int16_t readSetting(TextView name, std::int16_t highest) {
 }
 
 void writeSetting(TextView name, std::int16_t value) {
-  if (openOutput(kFile, appDir + Text(name)) != FileError::none) return;
+  const Text file = appDir + Text(name);
+  if (isLink(file)) removeOwnName(file);  // what it leads to is not the program's to write
+  if (openOutput(kFile, file) != FileError::none) return;
   printLine(kFile, PrintLine().number(value).line());
   closeFile(kFile);
 }

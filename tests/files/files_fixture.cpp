@@ -46,12 +46,9 @@ void FilesFixture::edit(const Text& dataFile) {
   heard();
 }
 
-void FilesFixture::pick(TextView job) {
+void FilesFixture::pick(PickFor purpose) {
   Fixture::play("wait 1");
-  run([job = Text(job)] {
-    mode = job;
-    showFilePicker();
-  });
+  run([purpose] { showFilePicker(purpose); });
 }
 
 std::string FilesFixture::play(const std::vector<std::string>& lines) {

@@ -3,6 +3,7 @@
 
 #include <doctest/doctest.h>
 
+#include "files/picker/picker.h"
 #include "fixture.h"
 
 namespace zelko::test {
@@ -17,7 +18,7 @@ class FilesFixture : public Fixture {
   // Enters the editor on a table; what is heard meanwhile is forgotten.
   void edit(const Text& dataFile);
   // Opens the picker for a job, from the main form where one is open.
-  void pick(TextView job);
+  void pick(PickFor purpose);
   // A line of a replay script each; what was heard: sentences, "beep" and "end", joined by " / ", with "~" for the
   // folder of the test.
   std::string play(const std::vector<std::string>& lines);

@@ -1,10 +1,8 @@
 #include "store/store_fixture.h"
 
-#include <sys/resource.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <csignal>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
@@ -92,22 +90,6 @@ std::string record(std::string_view cells) {
   std::string bytes(cells.substr(0, kDataBytes));
   bytes.resize(kDataBytes, ' ');
   return bytes + "\r\n";
-}
-
-FullDisk::FullDisk(std::size_t bytes) {
-  std::signal(SIGXFSZ, SIG_IGN);
-  rlimit limit{};
-  getrlimit(RLIMIT_FSIZE, &limit);
-  old_ = limit.rlim_cur;
-  limit.rlim_cur = bytes;
-  setrlimit(RLIMIT_FSIZE, &limit);
-}
-
-FullDisk::~FullDisk() {
-  rlimit limit{};
-  getrlimit(RLIMIT_FSIZE, &limit);
-  limit.rlim_cur = old_;
-  setrlimit(RLIMIT_FSIZE, &limit);
 }
 
 }  // namespace zelko::test

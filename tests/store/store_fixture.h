@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "fulldisk.h"
 #include "platform/host.h"
 #include "store/records/records.h"
 #include "store/table/cursor.h"
@@ -51,17 +52,5 @@ class StoreFixture {
 std::string itemFileText(const std::vector<int>& widths, const std::vector<int>& right = {},
                          std::string_view lineEnd = "\r\n");
 std::string record(std::string_view cells);
-
-// The limit of a file's size for as long as it lives: a full disk.
-class FullDisk {
- public:
-  explicit FullDisk(std::size_t bytes);
-  ~FullDisk();
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-
- private:
-  unsigned long old_;
-};
 
 }  // namespace zelko::test

@@ -87,7 +87,7 @@ Ending copyBlock(const Block& block, Text& text) {
     if (!progress.step(record)) return Ending::stopped;
     error = copyRecord(clip, record, block, text);
   }
-  if (const FileError closing = clip.close(); error == FileError::none) error = closing;
+  if (error == FileError::none) error = clip.finish();
   return error == FileError::none ? Ending::done : Ending::failed;
 }
 
@@ -105,11 +105,28 @@ bool layOver(ClipReader& clip, std::int16_t first, CacheRow& row) {
   return true;
 }
 
-Ending pasteRecord(ClipReader& clip, BackupWriter& backup, std::int32_t target) {
+// The record as it is, or a blank one behind the last; false where it can't be read.
+bool readTarget(std::int32_t target, CacheRow& row) { return getRec(kDataFile, target, row) || target > recCount(); }
+
+// On the disk before the first record changes: neither a kill nor a full disk leaves a paste that can't be undone.
+Ending backUp(std::int32_t count, Progress& progress) {
+  BackupWriter backup;
+  FileError error = backup.open(curRec);
+  for (std::int32_t number = 0; number < count && error == FileError::none; ++number) {
+    if (!progress.step(0)) return Ending::stopped;
+    CacheRow& row = recCache[0];
+    error = readTarget(curRec + number, row) ? backup.record(row) : FileError::device;
+  }
+  if (error == FileError::none) error = backup.finish();
+  if (error == FileError::none) return Ending::done;
+  tellWriteError();
+  return Ending::failed;
+}
+
+Ending pasteRecord(ClipReader& clip, std::int32_t target) {
   CacheRow& row = recCache[0];
-  const bool read = getRec(kDataFile, target, row) || target > recCount();  // else the row is blank
-  if (!read || backup.record(row) != FileError::none) {
-    tellWriteError();
+  if (!readTarget(target, row)) {
+    tellReadError();
     return Ending::failed;
   }
   if (!layOver(clip, curItem, row)) return Ending::outOfLines;
@@ -117,34 +134,35 @@ Ending pasteRecord(ClipReader& clip, BackupWriter& backup, std::int32_t target) 
 }
 
 Ending pasteRecords(ClipReader& clip, Progress& progress) {
-  BackupWriter backup;
-  if (backup.open(curRec) != FileError::none) {
-    tellWriteError();
-    return Ending::failed;
-  }
   setRow(recCache[1], blankRec);
   Ending ending = Ending::done;
   for (std::int32_t number = 0; number < clip.records() && ending == Ending::done; ++number)
-    ending = progress.step(number + 1) ? pasteRecord(clip, backup, curRec + number) : Ending::stopped;
-  if (backup.close() != FileError::none && ending == Ending::done) tellWriteError();
+    ending = progress.step(number + 1) ? pasteRecord(clip, curRec + number) : Ending::stopped;
   return ending;
 }
 
-// Without a question: also the way back of a paste that was stopped.
-void restoreBackup() {
+// Records that the paste did not come to are not there: they stay so.
+void putBackRecords(Progress& progress) {
   BackupReader backup;
-  std::int32_t record = backup.open();
-  // A paste into this table began within it or on its new line.
-  if (record == 0 || record > recCount() + 1) return showOK(u"最近張り付け操作をした形跡はありません", u"張付け操作");
+  CacheRow& row = recCache[1];
+  std::string bytes;
+  for (std::int32_t record = backup.open(); record > 0 && record <= recCount() && backup.next(bytes); ++record) {
+    progress.step(0);
+    setRow(row, bytes);
+    if (!putRec(kDataFile, record, {row.data(), row.size()})) return;
+  }
+}
+
+// Without a question: also the way back of a paste that was stopped, `changed` where it had come to the records.
+void restoreBackup(bool changed = true) {
+  const BackupFits fits = changed ? backupFits() : BackupFits::here;
+  if (fits == BackupFits::none) return showOK(u"最近張り付け操作をした形跡はありません", u"張付け操作");
+  if (fits == BackupFits::elsewhere) {
+    return showOK(u"最後の貼り付けは、今のこの表には合いません。取り消しはしません", u"張付け操作");
+  }
   {
     Progress progress(u"張り付け撤去中", 0);
-    CacheRow& row = recCache[1];
-    for (std::string bytes; backup.next(bytes); ++record) {
-      progress.step(0);
-      setRow(row, bytes);
-      if (!putRec(kDataFile, record, {row.data(), row.size()})) break;
-    }
-    backup.close();
+    if (changed) putBackRecords(progress);
     loadCache(curRec);
     waitForGate();
   }
@@ -153,14 +171,17 @@ void restoreBackup() {
 
 void paste(ClipReader& clip, TextView work) {
   Ending ending;
+  bool changed = false;
   {
     Progress progress(work, clip.records());
-    ending = pasteRecords(clip, progress);
+    ending = backUp(clip.records(), progress);
+    changed = ending == Ending::done;
+    if (changed) ending = pasteRecords(clip, progress);
     clip.close();
     loadCache(curRec);
     waitForGate();
   }
-  if (ending == Ending::stopped) return restoreBackup();
+  if (ending == Ending::stopped) return restoreBackup(changed);
   showAgain();
   if (ending == Ending::outOfLines) tellBrokenClip();
 }

@@ -3,9 +3,13 @@
 #include <algorithm>
 
 #include "platform/fault.h"
+#include "platform/files/blockfiles.h"
+#include "platform/files/workfiles.h"
 #include "platform/text/number.h"
 #include "store/records/records.h"
+#include "store/rewrite/filemark.h"
 #include "store/table/cursor.h"
+#include "store/table/itemfile.h"
 #include "voice/talk.h"
 
 namespace zelko {
@@ -14,18 +18,44 @@ namespace {
 
 constexpr int kClipFile = 3, kBackupFile = 4;
 constexpr char16_t kQuote = u'"';
+constexpr std::size_t kLongestLine = 4096;  // of a cell, or of a record; several times what each can hold
 
-Text clipName() { return appDir + u"ZLKCLip"; }
-Text backupName() { return appDir + u"ZLKCLip.bak"; }
+// A file, and the work file that it is until it is whole.
+struct Names {
+  TextView file, work;
+};
+constexpr Names kClip{u"ZLKCLip", u"CLIP.QQQ"};
+constexpr Names kBackup{u"ZLKCLip.bak", u"CLIPBAK.QQQ"};
+constexpr Names kBackupOf{u"ZLKCLip.for", u"CLIPFOR.QQQ"};
 
-FileError openForInput(int number, const Text& name) {
-  closeFile(number);
-  return openInput(number, findIgnoringCase(name).value_or(name));
+Text asItStands(const Names& names) {
+  const Text name = appDir + Text(names.file);
+  return findIgnoringCase(name).value_or(name);
 }
 
-FileError openForOutput(int number, const Text& name) {
+FileError openForInput(int number, const Names& names) {
   closeFile(number);
-  return openOutput(number, findIgnoringCase(name).value_or(name));
+  return openInput(number, asItStands(names), kNoBound, kLongestLine);
+}
+
+FileError openForOutput(int number, const Names& names) {
+  closeFile(number);
+  return isReadOnly(asItStands(names)) ? FileError::pathAccess : openNewOutput(number, appDir + Text(names.work));
+}
+
+// Whole and on the disk, still under its working name.
+FileError finishWork(int number) {
+  const FileError error = syncFile(number);
+  const FileError closing = closeFile(number);
+  return error != FileError::none ? error : closing;
+}
+
+FileError putInPlace(const Names& names) { return renameOver(appDir + Text(names.work), asItStands(names)); }
+
+void dropWork(int number, const Names& names) {
+  if (!isOpen(number)) return;
+  closeFile(number);
+  removeOwnName(appDir + Text(names.work));
 }
 
 // 0 for what is no record number.
@@ -62,10 +92,34 @@ std::size_t dataLength() {
   return static_cast<std::size_t>(std::clamp(itemStart[last] + itemWidth[last] - 1, 0, kDataBytes));
 }
 
+// --- What a backup belongs to --------------------------------------------------------------------------------
+
+constexpr TextView kHead = u"zelko backup 1";
+
+// The open table, as it lies on the disk: a rewrite makes another file of it.
+Text stateOfTable() {
+  Text state = behindLinks(joinName(docDrive, docPath)) + u"\n" + fromUtf8(fileIdentity(1)) + u"\n";
+  for (std::size_t i = 0; i <= static_cast<std::size_t>(itemCount); ++i) state += decimal(itemWidthLoaded[i]) + u" ";
+  return state;
+}
+
+// Head, the table's name, its identity and its widths, the mark of the backup, the number of records before the paste.
+Text backupOf(const FileMark& backup, std::int64_t records) {
+  return Text(kHead) + u"\n" + stateOfTable() + u"\n" + markText(backup) + u"\n" + decimal(records) + u"\n";
+}
+
+FileError writeBackupOf(const Text& text) {
+  FileError error = openForOutput(kBackupFile, kBackupOf);
+  if (error == FileError::none) error = printBytes(kBackupFile, toUtf8(text));
+  if (error == FileError::none) error = finishWork(kBackupFile);
+  dropWork(kBackupFile, kBackupOf);
+  return error;
+}
+
 }  // namespace
 
 FileError ClipWriter::open(const Block& block) {
-  FileError error = openForOutput(kClipFile, clipName());
+  FileError error = openForOutput(kClipFile, kClip);
   if (error == FileError::none) error = printNumbers(block.rec1, block.rec2);
   if (error == FileError::none) error = printNumbers(block.item1, block.item2);
   return error;
@@ -77,9 +131,16 @@ FileError ClipWriter::cell(TextView text) {
   return printLine(kClipFile, line);
 }
 
-FileError ClipWriter::close() { return closeFile(kClipFile); }
+FileError ClipWriter::finish() {
+  FileError error = finishWork(kClipFile);
+  if (error == FileError::none) error = putInPlace(kClip);
+  if (error != FileError::none) removeOwnName(appDir + Text(kClip.work));
+  return error;
+}
 
-bool ClipReader::open() { return openForInput(kClipFile, clipName()) == FileError::none; }
+ClipWriter::~ClipWriter() { dropWork(kClipFile, kClip); }
+
+bool ClipReader::open() { return openForInput(kClipFile, kClip) == FileError::none; }
 
 void ClipReader::close() { closeFile(kClipFile); }
 
@@ -111,7 +172,7 @@ bool ClipReader::header() { return counted(records_) && counted(items_); }
 bool ClipReader::next(Text& cell) { return field(cell); }
 
 FileError BackupWriter::open(std::int32_t first) {
-  const FileError error = openForOutput(kBackupFile, backupName());
+  const FileError error = openForOutput(kBackupFile, kBackup);
   return error == FileError::none ? printLine(kBackupFile, decimal(first)) : error;
 }
 
@@ -123,18 +184,43 @@ FileError BackupWriter::record(const CacheRow& row) {
   return printBytes(kBackupFile, '"' + line + "\"\r\n");
 }
 
-FileError BackupWriter::close() { return closeFile(kBackupFile); }
+// A kill between the two leaves a backup that fits nothing, and a table in which nothing was changed.
+FileError BackupWriter::finish() {
+  FileError error = finishWork(kBackupFile);
+  const auto mark = markOfFile(appDir + Text(kBackup.work));
+  if (error == FileError::none && !mark) error = FileError::device;
+  if (error == FileError::none) error = writeBackupOf(backupOf(*mark, recCount()));
+  if (error == FileError::none) error = putInPlace(kBackup);
+  if (error == FileError::none) error = putInPlace(kBackupOf);
+  if (error == FileError::none) return error;
+  for (const Names& names : {kBackup, kBackupOf}) removeOwnName(appDir + Text(names.work));
+  return error;
+}
+
+BackupWriter::~BackupWriter() { dropWork(kBackupFile, kBackup); }
+
+BackupFits backupFits() {
+  constexpr std::size_t kLongest = 65536;
+  const Text backup = asItStands(kBackup);
+  if (!fileExists(backup)) return BackupFits::none;
+  const auto bytes = readOwnFile(asItStands(kBackupOf), kLongest);
+  const auto mark = markOfFile(backup);
+  if (!bytes || !mark) return BackupFits::elsewhere;
+  const Text told = fromUtf8(*bytes), wanted = backupOf(*mark, 0);
+  const std::size_t same = wanted.size() - 2;  // all but the last line
+  if (told.substr(0, same) != wanted.substr(0, same)) return BackupFits::elsewhere;
+  return numberOf(told.substr(same)) <= recCount() ? BackupFits::here : BackupFits::elsewhere;
+}
 
 std::int32_t BackupReader::open() {
   Text line;
-  if (openForInput(kBackupFile, backupName()) != FileError::none) return 0;
+  if (openForInput(kBackupFile, kBackup) != FileError::none) return 0;
   return readLine(kBackupFile, line) == FileError::none ? numberOf(unquoted(line, false)) : 0;
 }
 
 bool BackupReader::next(std::string& bytes) {
   if (readLineBytes(kBackupFile, bytes) != FileError::none) return false;
-  if (!bytes.starts_with('"')) return true;
-  if (bytes.size() < 2 || bytes.back() != '"') return false;
+  if (bytes.size() < 2 || bytes.front() != '"' || bytes.back() != '"') return false;
   bytes = bytes.substr(1, bytes.size() - 2);
   return true;
 }

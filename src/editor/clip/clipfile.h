@@ -16,13 +16,14 @@ struct Block {
   std::int16_t item1, item2;
 };
 
-// Writes a clip file, replacing the old one. Each call gives the error so far; close gives that of the whole.
+// Writes a clip file. Each call gives the error so far. The old clip file stands until `finish`, which puts the whole
+// new one, on the disk, in its place; without it, or where it fails, the old one stays.
 class ClipWriter {
  public:
-  ~ClipWriter() { close(); }
+  ~ClipWriter();
   FileError open(const Block& block);
   FileError cell(TextView text);
-  FileError close();
+  FileError finish();
 };
 
 // Reads a clip file. A comma ends a field, wherever it stands: a cell that holds one slips into the next.
@@ -46,21 +47,28 @@ class ClipReader {
   std::int32_t records_ = 0, items_ = 0;
 };
 
-// The records as they were before a paste, byte for byte up to the end of the last item.
+// The records as they were before a paste, byte for byte up to the end of the last item; and in a file beside it which
+// table it is, in which state, so that an undo writes into no other. As with the clip file, `finish` puts both in the
+// place of the old ones; they are on the disk then.
 class BackupWriter {
  public:
-  ~BackupWriter() { close(); }
+  ~BackupWriter();
   FileError open(std::int32_t first);
   FileError record(const CacheRow& row);
-  FileError close();
+  FileError finish();
 };
+
+enum class BackupFits { none, elsewhere, here };
+// Whether there is a backup, and whether it is that of the last paste into the open table, which has had no record
+// inserted, deleted or moved and no item changed since.
+BackupFits backupFits();
 
 class BackupReader {
  public:
   ~BackupReader() { close(); }
-  // The number of the first record; 0 where there is no backup, or none that can be read.
+  // The number of the first record; 0 where it can't be read.
   std::int32_t open();
-  bool next(std::string& bytes);  // false at the end, or where a line was cut off
+  bool next(std::string& bytes);  // false at the end
   void close();
 };
 

@@ -12,6 +12,7 @@
 #include "platform/text/number.h"
 #include "store/records/records.h"
 #include "store/table/cursor.h"
+#include "store/table/notice.h"
 #include "store/table/readonly.h"
 #include "voice/progress.h"
 #include "voice/talk.h"
@@ -41,7 +42,10 @@ bool copiedToClip(std::int16_t kind, std::int32_t rec1, std::int32_t rec2, std::
 
 bool blankCells(std::int32_t record, std::int16_t item1, std::int16_t item2) {
   CacheRow row;
-  if (!getRec(kDataFile, record, row)) return true;
+  if (!getRec(kDataFile, record, row)) {
+    tellReadError();
+    return false;
+  }
   for (std::int16_t item = item1; item <= item2; ++item) {
     const auto i = static_cast<std::size_t>(item);
     const int start = std::min(itemStart[i] - 1, kDataBytes);

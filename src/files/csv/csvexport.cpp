@@ -5,6 +5,7 @@
 #include "files/csv/csvrecords.h"
 #include "platform/files/blockfiles.h"
 #include "platform/files/ownedfile.h"
+#include "platform/files/workfiles.h"
 #include "store/records/records.h"
 #include "store/records/walk.h"
 #include "store/rewrite/rewrite.h"
@@ -20,8 +21,8 @@ constexpr std::size_t kBlock = 262144;
 class CsvOutput {
  public:
   FileError create(const Text& name) {
-    deleteFile(name);
-    return file_.createRandom(name, 1);
+    const FileError free = removeOwnName(name);
+    return free == FileError::none ? file_.createRandom(name, 1) : free;
   }
   std::string& waiting() { return waiting_; }
   bool write(std::size_t least) {
@@ -78,7 +79,7 @@ JobEnd exportCsv(const Text& fullName, bool forSpreadsheet, const CsvExportGoesO
   JobEnd end = writeLines(output, *writerFor(forSpreadsheet), goesOn);
   output.close();
   if (end == JobEnd::done && replaceFile(unfinished, fullName) != FileError::none) end = JobEnd::failed;
-  if (end != JobEnd::done) deleteFile(unfinished);
+  if (end != JobEnd::done) removeOwnName(unfinished);
   return end;
 }
 

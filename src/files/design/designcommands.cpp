@@ -89,7 +89,7 @@ void frmDESIGN::finish() {
   done = true;
   // The cell of the table is news, whatever was said a moment ago.
   talkLast = 0;
-  if (mode == u"SVCread") {
+  if (purpose_ == DesignFor::csv) {
     const Silence silence;
     return screen().unload(*this);
   }
@@ -104,7 +104,7 @@ void frmDESIGN::frmDESIGN_Command2_Click() {
     closeReference();
     return showOK(u"参照ファイルリストを閉じました", u"参照ファイルリストクローズ");
   }
-  const bool toPicker = mode == u"SVCread" && loadedForm<frmDISK>();
+  const bool toPicker = purpose_ == DesignFor::csv && loadedForm<frmDISK>();
   if (!docPath.empty() || toPicker) return screen().unload(*this);
   if (!askYesNo(u"Zelkoを終了しますか？", kConfirm)) return;
   talkEnd();
@@ -189,26 +189,25 @@ void frmDESIGN::frmDESIGN_Command3_Click() {
 
 // --- The doors -------------------------------------------------------------------------------------------------
 
-bool showTableDesign() {
+bool showTableDesign(DesignFor purpose) {
   unload<frmDESIGN>();
   Screen::HandlerScope scope;  // the form is still there when its own unloading has ended it
   frmDESIGN& design = form<frmDESIGN>();
+  design.take(purpose);
   design.showModal();
   return design.done;
 }
 
 namespace {
 
-void designFor(TextView job) {
+void designFor(DesignFor purpose) {
   storeTypedCell();
-  mode = job;
-  showTableDesign();
-  if (mode == job) mode.clear();
+  showTableDesign(purpose);
 }
 
 void changeDesign() {
   if (docPath.empty()) return host().beep();
-  designFor(u"tdesign");
+  designFor(DesignFor::openTable);
 }
 
 // The picker goes on with the list of CSV files, over the table that they are read into.
@@ -216,8 +215,8 @@ void designForCsv() {
   if (!commandOf(u"csvREAD")) return host().beep();
   storeEditedTable();
   csvSurveyed = {};
-  const Text before = std::exchange(mode, u"SVCread");
-  if (!showTableDesign()) {
+  const Text before = mode;
+  if (!showTableDesign(DesignFor::csv)) {
     mode = before;
     return;
   }
@@ -225,8 +224,7 @@ void designForCsv() {
   if (!picker) return mode.clear();
   const Form1* main = loadedForm<Form1>();
   if (!main || !main->visible()) enterEditor();
-  mode = u"SVCread";
-  picker->takeJob();
+  picker->take(PickFor::csv);
   if (!csvSurveyed.file.empty()) picker->choose(csvSurveyed.file);
   picker->activate();
   picker->sayJob();
@@ -236,7 +234,7 @@ void designForCsv() {
 
 void registerTableDesign() {
   registerForm<frmDESIGN>();
-  registerCommand(u"mnuNEW", [] { designFor(u""); });
+  registerCommand(u"mnuNEW", [] { designFor(DesignFor::newTable); });
   registerCommand(u"mnuKOUMOKU", changeDesign);
   registerCommand(u"SVCread", designForCsv);
 }

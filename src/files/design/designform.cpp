@@ -30,10 +30,9 @@ constexpr TextView kCountHelp =
 }  // namespace
 
 frmDESIGN::frmDESIGN() : Form(kName, u"項目区切りの設定") {
-  changesTable_ = mode == u"tdesign" && !docPath.empty();
   cells_.reshape([this] {
     setHeadings();
-    changesTable_ ? startFromTable() : startNew();
+    startNew();
   });
   boxes_.open(docPath.empty() ? appDir : besideTable({}));
   wireBoxes();
@@ -43,12 +42,23 @@ frmDESIGN::frmDESIGN() : Form(kName, u"項目区切りの設定") {
   unvisible();
   onActivate = [this] { frmDESIGN_Activate(); };
   onClose = [this] { frmDESIGN_Command2_Click(); };
-  onUnload = [] {
-    if (mode == u"SVCread") mode.clear();
+  onUnload = [this] {
+    if (mode == word_) mode.clear();
   };
   narrate();
   cells_.enter(1, static_cast<int>(DesignColumn::name));
   itemin.setFocus();
+}
+
+void frmDESIGN::take(DesignFor purpose) {
+  constexpr TextView kWords[] = {u"", u"tdesign", u"SVCread"};  // in the order of DesignFor
+  purpose_ = purpose;
+  mode = word_ = kWords[static_cast<std::size_t>(purpose)];
+  changesTable_ = purpose == DesignFor::openTable && !docPath.empty();
+  Command4.setVisible(purpose == DesignFor::csv);
+  if (!changesTable_) return;
+  cells_.reshape([this] { startFromTable(); });
+  cells_.enter(1, static_cast<int>(DesignColumn::name));
 }
 
 void frmDESIGN::startNew() {
@@ -67,12 +77,14 @@ void frmDESIGN::startFromTable() {
 }
 
 void frmDESIGN::setBoxes(TextView count, TextView memo, TextView file) {
+  filling_ = true;
   text1.setText(count);
   text2.setText(memo);
   text3.setText(file);
   lastCount_ = count;
   lastMemo_ = memo;
   presetFile_ = lastFile_ = file;
+  filling_ = false;
 }
 
 void frmDESIGN::wireBoxes() {
@@ -141,7 +153,7 @@ void frmDESIGN::wireButtons() {
   Command2.onClick = [this] { frmDESIGN_Command2_Click(); };
   Command3.onClick = [this] { frmDESIGN_Command3_Click(); };
   Command4.onClick = [this] { frmDESIGN_Command4_Click(); };
-  Command4.setVisible(mode == u"SVCread");
+  Command4.setVisible(false);
   Command2.isCancel = true;
 }
 

@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "files/design/design.h"
 #include "files/design/designcheck.h"
 #include "parts/disk/diskboxes.h"
 #include "parts/grid/celleditor.h"
@@ -40,6 +41,9 @@ class frmDESIGN : public Form {
   FileBox File1{*this, u"File1"};
 
   bool done = false;  // the table was made or changed
+
+  // Before it is shown; a new table is designed where nothing is told.
+  void take(DesignFor purpose);
 
   // The rows of the design, the ID item first.
   std::vector<DesignRow> rows() const;
@@ -104,11 +108,13 @@ class frmDESIGN : public Form {
   std::vector<int> oldItems_;             // of each row: the item of the open table that it was, or -1
   Text presetFile_;                       // the file box as it was at the start
   Text lastCount_, lastMemo_, lastFile_;  // the boxes at their last change
-  bool listsCsv_ = false;                 // the boxes show CSV files, not tables
-  bool changesTable_ = false;             // the design of the open table is being changed
-  bool opened_ = false;                   // the opening sentence is said
-  bool marked_ = false;                   // the whole text of the box is marked: what is typed replaces it
-  bool filling_ = false;                  // the program fills a box
+  DesignFor purpose_ = DesignFor::newTable;
+  Text word_;                  // published in `mode`
+  bool listsCsv_ = false;      // the boxes show CSV files, not tables
+  bool changesTable_ = false;  // the design of the open table is being changed
+  bool opened_ = false;        // the opening sentence is said
+  bool marked_ = false;        // the whole text of the box is marked: what is typed replaces it
+  bool filling_ = false;       // the program fills a box
 };
 
 }  // namespace zelko

@@ -10,11 +10,13 @@
 #include "files/picker/pickerform.h"
 #include "files/picker/pickeropening.h"
 #include "parts/disk/filewords.h"
-#include "platform/files/files.h"
+#include "parts/job/lateprogress.h"
+#include "platform/files/ownedfile.h"
+#include "platform/files/workfiles.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "platform/text/sjis.h"
-#include "store/records/records.h"
+#include "store/records/appender.h"
 #include "store/rewrite/rewrite.h"
 #include "store/table/cursor.h"
 #include "store/table/itemfile.h"
@@ -26,7 +28,6 @@ namespace zelko {
 
 namespace {
 
-constexpr int kOutput = 3, kText = 4;
 constexpr TextView kUnfinished = u"HENKAN.QQQ";
 constexpr TextView kConfirm = u"確認";
 constexpr TextView kFinished = u"作業終了ﾒｯｾ-ｼﾞ";
@@ -49,7 +50,7 @@ bool cutToRecord(std::string& bytes) {
 }
 
 struct Conversion {
-  bool written = false;
+  bool written = false, stopped = false;
   std::int64_t cutLines = 0;
 };
 
@@ -64,10 +65,11 @@ bool isUtf8(std::string_view line) {
 
 // Shift-JIS is what the program writes; a text of this desktop is more often UTF-8, which all its lines show.
 bool sourceIsUtf8(const Text& source) {
-  if (openInput(kText, source) != FileError::none) return false;
+  OwnedFile text;
+  if (text.openInput(source) != FileError::none) return false;
+  const int number = text.number();
   bool utf8 = true;
-  for (std::string line; utf8 && !atEnd(kText) && readLineBytes(kText, line) == FileError::none;) utf8 = isUtf8(line);
-  closeFile(kText);
+  for (std::string line; utf8 && !atEnd(number) && readLineBytes(number, line) == FileError::none;) utf8 = isUtf8(line);
   return utf8;
 }
 
@@ -79,21 +81,23 @@ std::string recordOf(std::string line, bool utf8) {
 }
 
 // A line is a record, left-justified.
-Conversion copyLines(bool utf8) {
+Conversion copyLines(const OwnedFile& text, bool utf8, RecordAppender& output) {
   Conversion done;
+  LateProgress progress(u"Zelkoﾌｧｲﾙ作成中");
   std::string line;
-  for (std::int32_t record = 1; !atEnd(kText); ++record) {
-    const FileError read = readLineBytes(kText, line);
+  while (!atEnd(text.number())) {
+    const FileError read = readLineBytes(text.number(), line);
     if (read == FileError::pastEnd) break;
     if (read != FileError::none) return done;
     std::string bytes = recordOf(line, utf8);
     if (!cutToRecord(bytes)) ++done.cutLines;
-    CacheRow row;
-    setRow(row, bytes);
-    if (putRecord(kOutput, record, row.data()) != FileError::none) return done;
-    host().letEventsThrough();
+    if (!output.append(bytes)) return done;
+    if (!progress.step(output.appended())) {
+      done.stopped = true;
+      return done;
+    }
   }
-  done.written = syncFile(kOutput) == FileError::none;
+  done.written = output.finish();
   return done;
 }
 
@@ -106,26 +110,21 @@ TableDescription itemsOfConverted() {
 // The new table stands whole beside the old one before it takes its place.
 Conversion convert(const Text& source, const Text& fullName) {
   const Text unfinished = fullName.substr(0, fullName.rfind(u'/') + 1) + Text(kUnfinished);
-  deleteFile(unfinished);
-  if (openRandom(kOutput, unfinished, recLen) != FileError::none) return {};
-  Conversion done;
+  if (removeOwnName(unfinished) != FileError::none) return {};
+  RecordAppender output;
+  OwnedFile text;
   const bool utf8 = sourceIsUtf8(source);
-  if (openInput(kText, source) == FileError::none) done = copyLines(utf8);
-  closeFile(kText);
-  if (closeFile(kOutput) != FileError::none) done.written = false;
+  if (text.openInput(source) != FileError::none || output.create(unfinished) != FileError::none) return {};
+  Conversion done = copyLines(text, utf8, output);
   Text drive, path;
   splitName(fullName, drive, path);
   done.written = done.written && writeKFileOf(path, drive, itemsOfConverted()) &&
                  replaceFile(unfinished, fullName) == FileError::none;
-  if (!done.written) deleteFile(unfinished);
+  if (done.written) output.keep();
   return done;
 }
 
-bool canBeRead(const Text& source) {
-  const bool opened = openInput(kText, source) == FileError::none;
-  closeFile(kText);
-  return opened;
-}
+bool canBeRead(const Text& source) { return OwnedFile().openInput(source) == FileError::none; }
 
 bool isInTheWay(const Text& source, const Text& fullName) {
   const bool isSource = isSameFile(fullName, source);
@@ -167,6 +166,7 @@ void runConversion(const Text& fullName) {
   if (!mayTakeOutput(fullName)) return tellNotOpened();
   if (fileExists(fullName) && !askYesNo(spokenName(fullName) + u"は既にあります。上書きしますか。", kConfirm)) return;
   const Conversion done = convert(source, fullName);
+  if (done.stopped) return talkBehindDialog(u"中止しました。Zelkoﾌｧｲﾙは作られていません。");
   if (!done.written) return tellWriteError();
   tellConverted(fullName, done);
   showConverted(fullName);
@@ -175,21 +175,18 @@ void runConversion(const Text& fullName) {
 void askForConverted() {
   const Text source = pickedFile();
   if (source.empty()) return host().beep();
-  mode = u"CVZLKF";
-  showOutputDialog(convertedName(source));
+  showOutputDialog(u"CVZLKF", convertedName(source));
 }
 
 void openConversion() {
   storeTypedCell();
-  mode = u"CVZLKF";
-  showFilePicker();
-  if (mode == u"CVZLKF" || mode == u"tyusi") mode.clear();
+  showFilePicker(PickFor::text);
 }
 
 }  // namespace
 
 void registerConversion() {
-  registerOutputJob(u"CVZLKF", {runConversion, {}});
+  registerOutputJob(u"CVZLKF", {runConversion, {}, OutputManner::replaces});
   registerCommand(u"CVZLKF", askForConverted);
   registerCommand(u"mnuCZLK", openConversion);
 }

@@ -3,14 +3,17 @@
 #include "files/output/convert.h"
 #include "files/output/outputform.h"
 #include "files/output/saveas.h"
+#include "store/table/cursor.h"
 
 namespace zelko {
 
-void showOutputDialog(TextView preset) {
+void showOutputDialog(TextView word, TextView preset) {
   unload<formHOZON>();
   formHOZON& dialog = form<formHOZON>();
+  dialog.take(word);
   dialog.fillName(preset);
   dialog.showModal();
+  if (mode == word) mode.clear();
 }
 
 void closeOutputDialog() { unload<formHOZON>(); }

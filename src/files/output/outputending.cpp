@@ -1,25 +1,20 @@
 #include "files/output/outputending.h"
 
+#include "editor/moves/moves.h"
 #include "files/picker/othertables.h"
 #include "files/picker/pickeropening.h"
 #include "platform/files/files.h"
 #include "platform/forms/form.h"
+#include "store/table/cursor.h"
 #include "store/table/itemfile.h"
 #include "voice/dialogs.h"
 #include "voice/talk.h"
 
 namespace zelko {
 
-namespace {
-
-constexpr int kOutput = 3;
-
-std::int32_t recordOfTail(std::int64_t length) { return static_cast<std::int32_t>(length / recLen) + 1; }
-
-}  // namespace
-
-void askWhereToWork(TextView question, TextView title) {
-  askYesNo(u"<<<<<元のﾌｧｲﾙで作業しますか>>>>?\r" + Text(question), title);
+WorkIn askWhereToWork(TextView question, TextView title) {
+  if (askYesNo(u"<<<<<元のﾌｧｲﾙで作業しますか>>>>?\r" + Text(question), title)) return WorkIn::source;
+  return msgAnswer == kNo ? WorkIn::output : WorkIn::again;
 }
 
 bool workInOutput(const Text& fullName, Form& dialog) {
@@ -37,23 +32,17 @@ bool workInOutput(const Text& fullName, Form& dialog) {
   return false;
 }
 
-OutputBefore::OutputBefore(const Text& fullName) : fullName_(fullName) {
-  if (!fileExists(fullName) || openRandom(kOutput, fullName, recLen) != FileError::none) return;
-  length_ = fileLength(kOutput);
-  getRecord(kOutput, recordOfTail(length_), tail_.data());
-  closeFile(kOutput);
-}
-
-void OutputBefore::putBack() const {
-  if (length_ < 0) {
-    deleteFile(fullName_);
+void endInOutput(const Text& fullName, Form& dialog, TextView question, TextView title) {
+  const WorkIn where = askWhereToWork(question, title);
+  mode.clear();
+  if (where == WorkIn::output) {
+    workInOutput(fullName, dialog);
     return;
   }
-  if (length_ % recLen != 0 && openRandom(kOutput, fullName_, recLen) == FileError::none) {
-    putRecord(kOutput, recordOfTail(length_), tail_.data());
-    closeFile(kOutput);
-  }
-  cutFile(fullName_, length_);
+  // Where the user is now is news, whatever the dialog said a moment ago.
+  talkLast = 0;
+  screen().unload(dialog);
+  reloadCur();
 }
 
 bool mayTakeOutput(const Text& fullName) {

@@ -1,33 +1,27 @@
 // How a job that left a new table ends: in which of the two files the user works on.
 #pragma once
 
-#include <cstdint>
-
-#include "store/table/table.h"
+#include "platform/text/text.h"
 
 namespace zelko {
 
 class Form;
 
-// "<<<<<元のﾌｧｲﾙで作業しますか>>>>?" and the question, with yes, no and cancel: msgAnswer holds the answer.
-void askWhereToWork(TextView question, TextView title);
+enum class WorkIn {
+  source,  // yes
+  output,  // no
+  again,   // cancel: where the job has nothing to do again, as yes
+};
+// "<<<<<元のﾌｧｲﾙで作業しますか>>>>?" and the question, with yes, no and cancel; msgAnswer holds the answer too.
+WorkIn askWhereToWork(TextView question, TextView title);
 
 // All files are closed and the output becomes the open table, on its first cell; the dialog goes. False after a message
 // where it can't be opened: the old table is open again.
 bool workInOutput(const Text& fullName, Form& dialog);
 
-// An output file as it is before a job writes behind its records.
-class OutputBefore {
- public:
-  explicit OutputBefore(const Text& fullName);
-  // After a job that failed, the file closed: as long as it was, with the bytes it had, or gone where there was none.
-  void putBack() const;
-
- private:
-  Text fullName_;
-  std::int64_t length_ = -1;
-  CacheRow tail_{};  // what is no whole record at its end; a new record takes its place
-};
+// The whole ending of a job whose dialog is still open: the question, then the output as the open table, or the source
+// again on its cell. `mode` is empty then.
+void endInOutput(const Text& fullName, Form& dialog, TextView question, TextView title);
 
 // Whether a file may take output: not read-only, no folder, and nothing of another table is lost by it. For a table
 // whose rewrite was interrupted the user is asked whether to finish that first.

@@ -29,14 +29,14 @@ constexpr TextView kAppends = u"ファイルボックスで既存のファイル
 
 constexpr TextView kNameBox = u"出力ﾌｧｲﾙ名ﾃｷｽﾄﾎﾞｯｸｽ";
 
-TextView noteFor(TextView job) {
-  if (job == u"saveas") return u"同名の既存ファイルがある場合、出力記録は既存記録の後に追加されます";
-  if (job == u"CVZLKF") return u"同名の既存ファイルがある場合上書きされます";
+TextView noteFor(OutputManner manner) {
+  if (manner == OutputManner::copies) return u"同名の既存ファイルがある場合、出力記録は既存記録の後に追加されます";
+  if (manner == OutputManner::replaces) return u"同名の既存ファイルがある場合上書きされます";
   return u"既存ﾌｧｲﾙ指定の場合、出力記録は既存記録の後に追加されます";
 }
 
-Text openingFor(TextView job) {
-  return Text(kOpening) + (job == u"CVZLKF" ? Text(noteFor(job)) + markStop : Text(kAppends));
+Text openingFor(OutputManner manner) {
+  return Text(kOpening) + (manner == OutputManner::replaces ? Text(noteFor(manner)) + markStop : Text(kAppends));
 }
 
 std::map<Text, OutputJob, std::less<>>& jobs() {
@@ -44,15 +44,10 @@ std::map<Text, OutputJob, std::less<>>& jobs() {
   return all;
 }
 
-const OutputJob* jobOf(TextView word) {
-  const auto found = jobs().find(word);
-  return found == jobs().end() ? nullptr : &found->second;
-}
-
 }  // namespace
 
-formHOZON::formHOZON() : Form(kName, u"出力ﾌｧｲﾙ名"), job_(mode) {
-  Label2.setCaption(noteFor(job_));
+formHOZON::formHOZON() : Form(kName, u"出力ﾌｧｲﾙ名") {
+  Label2.setCaption(noteFor(job_.manner));
   File1.setPattern(u"k?*.txt");
   boxes_.open(docPath.empty() ? appDir : besideTable({}));
   boxes_.shownName = tableOfItemFile;
@@ -60,6 +55,13 @@ formHOZON::formHOZON() : Form(kName, u"出力ﾌｧｲﾙ名"), job_(mode) {
   wire();
   narrate();
   RichTextBox1.setFocus();
+}
+
+void formHOZON::take(TextView word) {
+  const auto found = jobs().find(word);
+  job_ = found == jobs().end() ? OutputJob{} : found->second;
+  mode = word_ = word;
+  Label2.setCaption(noteFor(job_.manner));
 }
 
 void formHOZON::wire() {
@@ -80,7 +82,9 @@ void formHOZON::wire() {
 
 void formHOZON::narrate() {
   Narration voice(*this);
-  voice.explain([this] { return markStop + openingFor(job_) + (job_ == u"CVZLKF" ? Text() : Label2.caption()); });
+  voice.explain([this] {
+    return markStop + openingFor(job_.manner) + (job_.manner == OutputManner::replaces ? Text() : Label2.caption());
+  });
   voice.box(RichTextBox1, kNameBox);
   boxes_.narrate(voice);
   boxes_.narrateFiles(voice);
@@ -98,7 +102,7 @@ void formHOZON::formHOZON_Activate() {
   if (opened_) return;
   opened_ = true;
   if (talkMode != 0) waitSec(talkGap);
-  talkS(*this, openingFor(job_));
+  talkS(*this, openingFor(job_.manner));
 }
 
 void formHOZON::formHOZON_RichTextBox1_Change() {
@@ -145,18 +149,16 @@ void formHOZON::formHOZON_Command1_Click() {
     case NameStep::settled:
       break;
   }
-  const OutputJob* job = jobOf(job_);
-  if (!job) return host().beep();
-  mode = job_;
+  if (!job_.run) return host().beep();
+  mode = word_;
   // One table, whatever the case of the letters it was typed in.
-  job->run(findIgnoringCase(fullName).value_or(fullName));
+  job_.run(findIgnoringCase(fullName).value_or(fullName));
 }
 
 void formHOZON::formHOZON_Command2_Click() {
-  const OutputJob* job = jobOf(job_);
   mode.clear();
   screen().unload(*this);
-  if (job && job->cancelled) job->cancelled();
+  fire(job_.cancelled);
   if (!docPath.empty()) dispAll(curItem);
 }
 

@@ -1,6 +1,7 @@
 // The form that asks for the name of an output file.
 #pragma once
 
+#include "files/output/output.h"
 #include "parts/disk/diskboxes.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
@@ -21,6 +22,8 @@ class formHOZON : public Form {
   Button Command2{*this, u"Command2", u"中止(ESC)"};
   Button Command3{*this, u"Command3", u"フォルダ作成(&F)"};
 
+  // Takes on the job of that word, and publishes the word.
+  void take(TextView word);
   // Puts a text into the name box without a word, the caret behind it.
   void fillName(TextView name);
 
@@ -37,7 +40,8 @@ class formHOZON : public Form {
   Text chosenName() const;
 
   DiskBoxes boxes_{Drive1, Dir1, File1};
-  Text job_;       // the word of the job at the start
+  OutputJob job_;
+  Text word_;      // of the job
   Text lastName_;  // the name box at its last change
   bool opened_ = false, filling_ = false;
 };

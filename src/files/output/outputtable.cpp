@@ -6,6 +6,7 @@
 #include "files/picker/deletetable.h"
 #include "parts/disk/filewords.h"
 #include "platform/files/blockfiles.h"
+#include "platform/files/workfiles.h"
 #include "store/rewrite/rewrite.h"
 #include "store/table/itemfile.h"
 #include "store/table/notice.h"
@@ -65,8 +66,8 @@ bool OutputTable::replace(const Text& fullName) {
   if (!mayUse(fullName)) return false;
   if (fileExists(fullName) && !askYesNo(spokenName(fullName) + u"は既にあります。上書きしますか。", kConfirm))
     return false;
-  deleteFile(unfinished_);
-  return opened(records_.create(unfinished_));
+  const FileError free = removeOwnName(unfinished_);
+  return opened(free == FileError::none ? records_.create(unfinished_) : free);
 }
 
 bool OutputTable::finish() { return finish({itemsOnDisk(), tableMemo}); }

@@ -15,7 +15,7 @@
 namespace zelko {
 
 frmFileNo::frmFileNo() : Form(kName, u"他ﾌｧｲﾙの項目指定") {
-  File1.setPattern(pickerJob(u"REF").pattern);
+  File1.setPattern(pickerJob(PickFor::reference).pattern);
   boxes_.open(appDir);
   boxes_.onFolderChanged = [this] { List1.clear(); };
   boxes_.shownName = tableOfItemFile;

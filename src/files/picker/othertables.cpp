@@ -1,6 +1,6 @@
 #include "files/picker/othertables.h"
 
-#include "platform/files/blockfiles.h"
+#include "parts/disk/ownnames.h"
 #include "platform/files/files.h"
 #include "store/rewrite/recovery.h"
 #include "store/table/itemfile.h"
@@ -21,11 +21,13 @@ bool itemFileIsDataOfOther(TextView dataFile) {
   return fileExists(itemFile) && !isItemFile(itemFile) && isItemFile(itemFilePath(itemFile, {}));
 }
 
-bool takesFilesOfOther(TextView dataFile) { return isItemFile(dataFile) || itemFileIsDataOfOther(dataFile); }
+bool takesFilesOfOther(TextView dataFile) {
+  return isOwnName(dataFile) || isItemFile(dataFile) || itemFileIsDataOfOther(dataFile);
+}
 
 bool waitsForItsRecords(TextView dataFile) {
   const auto swap = interruptedSwap(dataFile.substr(0, dataFile.rfind(u'/') + 1));
-  return swap && behindLinks(dataFile) == swap->data && !offerRecovery(dataFile);
+  return swap && dataFile == swap->folder + swap->data && !offerRecovery(dataFile);
 }
 
 }  // namespace zelko

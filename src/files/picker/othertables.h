@@ -9,8 +9,8 @@ namespace zelko {
 // Whether the item file of the table with that data file would lie where another table has its records.
 bool itemFileIsDataOfOther(TextView dataFile);
 
-// Whether making, or lengthening, a table of that name would destroy files of another one: where that is so, or where
-// the data file is itself an item file.
+// Whether making, or lengthening, a table of that name would destroy files of another one, or of the program itself:
+// where that is so, or where the data file is itself an item file.
 bool takesFilesOfOther(TextView dataFile);
 
 // Whether the name is that of a table whose rewrite was interrupted, once the user has refused to have it finished: a

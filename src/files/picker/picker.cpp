@@ -12,23 +12,27 @@ namespace zelko {
 namespace {
 
 // A job that the user starts from the main form.
-void pickFor(TextView job) {
+void pickFor(PickFor purpose) {
   storeEditedTable();
-  mode = job;
-  showFilePicker();
-  if (mode == job || mode == u"tyusi") mode.clear();
+  showFilePicker(purpose);
 }
 
 }  // namespace
 
-void showFilePicker() {
+bool showFilePicker(PickFor purpose) {
   unload<frmDISK>();
   frmDISK& picker = form<frmDISK>();
+  picker.take(purpose);
   const Form1* main = loadedForm<Form1>();
-  if (main && main->visible())
-    picker.showModal();
-  else
+  if (!main || !main->visible()) {
     picker.show();
+    return true;
+  }
+  bool gaveUp = false;
+  picker.onGivenUp = [&] { gaveUp = true; };
+  picker.showModal();
+  if (gaveUp) mode.clear();
+  return !gaveUp;
 }
 
 Text pickedFile() {
@@ -41,8 +45,8 @@ void closeFilePicker() { unload<frmDISK>(); }
 void registerFilePicker() {
   registerForm<frmDISK>();
   registerForm<frmFileNo>();
-  registerCommand(u"mnuREAD", [] { pickFor(u"YOMIKOMI"); });
-  registerCommand(u"mnuDEL", [] { pickFor(u"delfile"); });
+  registerCommand(u"mnuREAD", [] { pickFor(PickFor::table); });
+  registerCommand(u"mnuDEL", [] { pickFor(PickFor::deletion); });
 }
 
 }  // namespace zelko

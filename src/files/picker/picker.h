@@ -5,19 +5,26 @@
 
 namespace zelko {
 
-// Shows frmDISK for the job that `mode` names (empty or "YOMIKOMI" opens a table), on the program's folder. Modal over
-// the main form; without one, as from the start screen, it returns at once. A table that was chosen is open, and the
-// editor entered, when the picker has gone.
+enum class PickFor {
+  table,      // to be opened; the editor is entered on it when the picker has gone
+  deletion,   // of a table
+  layout,     // read by the command "LAYOUT"
+  reference,  // a table for the second description, shown by the command "REF"
+  text,       // converted to a table by the command "CVZLKF"
+  csv,        // its items are designed by the command "SVCread", and it is read by "csvREAD"
+};
+
+// Shows frmDISK on the program's folder, and publishes the word of its job in `mode` until it is closed. Modal over the
+// main form; without one, as from the start screen, it returns at once. False where the user gave up, which "tyusi"
+// tells in `mode` while the picker closes.
 //
-// Jobs that other floors finish are commands by name (editor/commands.h), run while the picker is open; until one is
-// registered the picker beeps: "LAYOUT" reads a layout, "REF" shows the reference table of the second description,
-// "CVZLKF" converts a text file, "SVCread" lets the user design the items of a CSV file, "csvREAD" reads it.
-void showFilePicker();
+// The commands are run while the picker is open; until one is registered (editor/main/commands.h) it beeps.
+bool showFilePicker(PickFor purpose);
 
 // What such a command asks for: the full name of the chosen file, in the jobs of tables the data file; empty where
 // nothing is chosen or the picker isn't open.
 Text pickedFile();
-// Closes the picker, `mode` as it stands.
+// Closes the picker.
 void closeFilePicker();
 
 void registerFilePicker();

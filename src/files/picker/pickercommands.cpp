@@ -35,11 +35,19 @@ Text frmDISK::chosenFile() const {
 
 void frmDISK::frmDISK_Command1_Click() {
   if (list().listIndex() < 0) return host().beep();
-  if (job_->mode == u"delfile") return deleteChosen();
-  if (job_->mode == u"REF") return refFileacs(chosenFile());
-  if (job_->mode == u"SVCread") return runCommand(u"csvREAD");
-  if (!job_->tables) return runCommand(job_->mode);
-  openChosen();
+  switch (job_->purpose) {
+    case PickFor::table:
+      return openChosen();
+    case PickFor::deletion:
+      return deleteChosen();
+    case PickFor::reference:
+      return refFileacs(chosenFile());
+    case PickFor::csv:
+      return runCommand(u"csvREAD");
+    case PickFor::layout:
+    case PickFor::text:
+      return runCommand(job_->word);
+  }
 }
 
 void frmDISK::openChosen() {
@@ -68,7 +76,7 @@ void frmDISK::afterDeletion(int index) {
 }
 
 void frmDISK::frmDISK_Command2_Click() {
-  if (job_->mode != u"SVCread") return runCommand(u"SVCread");
+  if (job_->purpose != PickFor::csv) return runCommand(u"SVCread");
   frmDISK_Command1_Click();
 }
 
@@ -77,8 +85,8 @@ void frmDISK::frmDISK_Command3_Click() {
     if (askYesNo(u"Zelkoを終了しますか？", u"確認")) endFromPicker();
     return;
   }
-  const bool callerWaits = mode == u"CVZLKF" || mode == u"REF" || mode == u"LAYOUT" || mode == u"delfile";
-  mode = callerWaits ? u"tyusi" : u"";
+  mode = job_->callerWaits ? u"tyusi" : u"";
+  fire(onGivenUp);
   screen().unload(*this);
 }
 
@@ -87,9 +95,8 @@ void frmDISK::frmDISK_Command4_Click() {
 }
 
 void frmDISK::frmDISK_cmdNOTZLK_Click() {
-  const bool toAllFiles = job_->mode != u"CVZLKF";
-  mode = toAllFiles ? u"CVZLKF" : u"";
-  takeJob();
+  const bool toAllFiles = job_->purpose != PickFor::text;
+  take(toAllFiles ? PickFor::text : PickFor::table);
   if (toAllFiles)
     talkD(*this, u"Zelkoファイルでないファイルの読み込みへ");
   else
@@ -101,7 +108,7 @@ void frmDISK::frmDISK_list_KeyUp(KeyEvent& key) {
   heldKey_ = 0;
   if (key.code == key::Space) {
     List1.visible() ? dispOItem() : dispItem();
-  } else if (key.code == key::Delete && job_->mode == u"LAYOUT" && File1.listIndex() >= 0) {
+  } else if (key.code == key::Delete && job_->purpose == PickFor::layout && File1.listIndex() >= 0) {
     deleteMarked();
   }
 }
@@ -125,7 +132,7 @@ void frmDISK::dispItem() { showItems(ownName(chosenEntry())); }
 void frmDISK::dispOItem() { showItems(List1.text()); }
 
 void frmDISK::showItems(TextView name) {
-  if (name.empty() || job_->mode == u"LAYOUT" || job_->mode == u"SVCread") return host().beep();
+  if (name.empty() || job_->purpose == PickFor::layout || job_->purpose == PickFor::csv) return host().beep();
   showTableItems(chosenFile(), spokenName(name));
 }
 

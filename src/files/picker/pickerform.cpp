@@ -12,10 +12,10 @@
 
 namespace zelko {
 
-frmDISK::frmDISK() : Form(kName, u"Zelkoﾌｧｲﾙ指定"), job_(&pickerJob(mode)) {
+frmDISK::frmDISK() : Form(kName, u"Zelkoﾌｧｲﾙ指定"), job_(&pickerJob(PickFor::table)) {
   writeHints();
   boxes_.open(appDir);
-  takeJob();
+  dress();
   boxes_.onFolderChanged = [this] {
     fillList1();
     Text1.setText({});
@@ -26,8 +26,11 @@ frmDISK::frmDISK() : Form(kName, u"Zelkoﾌｧｲﾙ指定"), job_(&pickerJob(mo
   onActivate = [this] { frmDISK_Activate(); };
   onKeyUp = [this](KeyEvent& key) { frmDISK_KeyUp(key); };
   onClose = [this] { frmDISK_Command3_Click(); };
+  onUnload = [this] {
+    if (mode == job_->word) mode.clear();
+  };
   narrate();
-  list().setFocus();
+  if (!visible()) list().setFocus();
 }
 
 void frmDISK::writeHints() {
@@ -82,10 +85,18 @@ void frmDISK::narrate() {
   for (Button* button : {&Command1, &Command2, &Command3, &Command4, &cmdNOTZLK}) voice.say(*button, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ");
 }
 
-void frmDISK::takeJob() {
-  const bool wasAllFiles = job_->mode == u"CVZLKF";
-  job_ = &pickerJob(mode);
-  const bool choosesTable = job_->mode.empty(), allFiles = job_->mode == u"CVZLKF";
+void frmDISK::take(PickFor purpose) {
+  const bool wasText = job_->purpose == PickFor::text;
+  job_ = &pickerJob(purpose);
+  mode = job_->word;
+  dress();
+  if (wasText != (purpose == PickFor::text)) File1.setListIndex(-1);
+  if (!visible()) list().setFocus();
+}
+
+void frmDISK::dress() {
+  const PickFor purpose = job_->purpose;
+  const bool choosesTable = purpose == PickFor::table, allFiles = purpose == PickFor::text;
   setCaption(job_->caption);
   Command1.setCaption(job_->command);
   Label2.setCaption(job_->listLabel);
@@ -93,12 +104,11 @@ void frmDISK::takeJob() {
   for (Control* control : {static_cast<Control*>(&cmdNOTZLK), static_cast<Control*>(&Text3)})
     control->setVisible(choosesTable || allFiles);
   for (Control* control : {static_cast<Control*>(&Command2), static_cast<Control*>(&Text2)})
-    control->setVisible(choosesTable || job_->mode == u"SVCread");
-  Check1.setVisible(job_->mode == u"SVCread");
+    control->setVisible(choosesTable || purpose == PickFor::csv);
+  Check1.setVisible(purpose == PickFor::csv);
   File1.setPattern(job_->pattern);
-  if (allFiles != wasAllFiles) File1.setListIndex(-1);
-  File1.setVisible(job_->mode != u"REF");
-  List1.setVisible(job_->mode == u"REF");
+  File1.setVisible(purpose != PickFor::reference);
+  List1.setVisible(purpose == PickFor::reference);
   fillList1();
   Text1.setText({});
 }
@@ -157,7 +167,7 @@ Text frmDISK::buttonReport(const Control& button) const {
   if (&button == &Command1 && job_->command == u"読み込み(CR)") return u"読み込み（CR)コマンドボタン";
   if (&button == &Command3) return u"中止(ESC)コマンドボタン";
   Text report = withoutMarks(button.caption()) + u"コマンドボタン";
-  if (&button == &cmdNOTZLK) report += toggleReport(job_->mode == u"CVZLKF");
+  if (&button == &cmdNOTZLK) report += toggleReport(job_->purpose == PickFor::text);
   if (&button == &Command2) report += markStop + Text2.content();
   return report;
 }

@@ -1,6 +1,7 @@
 // The form of the file picker.
 #pragma once
 
+#include "files/picker/picker.h"
 #include "parts/disk/diskboxes.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
@@ -29,8 +30,8 @@ class frmDISK : public Form {
   RichTextBox Text2{*this, u"Text2"};
   RichTextBox Text3{*this, u"Text3"};
 
-  // Takes on the job that `mode` names: captions, pattern, which buttons there are.
-  void takeJob();
+  // Takes on a job: captions, pattern, which buttons there are.
+  void take(PickFor purpose);
   // Chooses that file in its folder, without a word, where the list has it.
   void choose(const Text& file);
   // Says what is to be chosen, and what is marked, behind the form that has just closed.
@@ -38,7 +39,10 @@ class frmDISK : public Form {
   // The full name of the chosen file, of a table its data file; empty where nothing is selected.
   Text chosenFile() const;
 
+  std::function<void()> onGivenUp;
+
  private:
+  void dress();
   void writeHints();
   void wireLists();
   void wireButtons();

@@ -1,8 +1,5 @@
 #include "files/picker/pickerwords.h"
 
-#include <algorithm>
-#include <iterator>
-
 #include "parts/disk/filewords.h"
 
 namespace zelko {
@@ -12,15 +9,15 @@ namespace {
 constexpr TextView kItemFiles = u"k?*.txt";
 constexpr TextView kChoose = u" ﾌｧｲﾙを指定して下さい。";
 
-// The first row serves every other word.
+// In the order of PickFor.
 constexpr PickerJob kJobs[] = {
-    {u"", u"Zelkoﾌｧｲﾙ指定", kItemFiles, u"読み込み(CR)", u"ﾌｧｲﾙ", kChoose, true},
-    {u"delfile", u"削除ﾌｧｲﾙ指定", kItemFiles, u"削除(CR)", u"ﾌｧｲﾙ", u"", true},
-    {u"LAYOUT", u"ﾚｲｱｳﾄﾌｧｲﾙ指定", u"*(*).LAY", u"読込(CR)", u"ﾚｲｱｳﾄ",
-     u"レイアウトファイルを指定してください。なおDeleteキーでファイル削除です", false},
-    {u"REF", u"Zelkoﾌｧｲﾙ指定", kItemFiles, u"読み込み(CR)", u"参照ﾌｧｲﾙ", kChoose, true},
-    {u"CVZLKF", u"Zelkoﾌｧｲﾙへの変換", u"*.*", u"読み込み(CR)", u"ﾌｧｲﾙ", kChoose, false},
-    {u"SVCread", u"Zelkoﾌｧｲﾙ指定", u"*.csv", u"読み込み(CR)", u"CSVﾌｧｲﾙ", kChoose, false},
+    {PickFor::table, u"YOMIKOMI", u"Zelkoﾌｧｲﾙ指定", kItemFiles, u"読み込み(CR)", u"ﾌｧｲﾙ", kChoose, true, false},
+    {PickFor::deletion, u"delfile", u"削除ﾌｧｲﾙ指定", kItemFiles, u"削除(CR)", u"ﾌｧｲﾙ", u"", true, true},
+    {PickFor::layout, u"LAYOUT", u"ﾚｲｱｳﾄﾌｧｲﾙ指定", u"*(*).LAY", u"読込(CR)", u"ﾚｲｱｳﾄ",
+     u"レイアウトファイルを指定してください。なおDeleteキーでファイル削除です", false, true},
+    {PickFor::reference, u"REF", u"Zelkoﾌｧｲﾙ指定", kItemFiles, u"読み込み(CR)", u"参照ﾌｧｲﾙ", kChoose, true, true},
+    {PickFor::text, u"CVZLKF", u"Zelkoﾌｧｲﾙへの変換", u"*.*", u"読み込み(CR)", u"ﾌｧｲﾙ", kChoose, false, true},
+    {PickFor::csv, u"SVCread", u"Zelkoﾌｧｲﾙ指定", u"*.csv", u"読み込み(CR)", u"CSVﾌｧｲﾙ", kChoose, false, false},
 };
 
 }  // namespace
@@ -34,10 +31,7 @@ const TextView kListHint =
     u"●ﾌｧｲﾙを選んでｽﾍﾟｰｽｷｰを叩くと、項目名一覧が表示されます。\r\n"
     u"●下のボタンで、Zelkoﾌｧｲﾙでないﾌｧｲﾙも表示し、Zelkoﾌｧｲﾙに変換して読み込めます。";
 
-const PickerJob& pickerJob(TextView mode) {
-  const auto found = std::ranges::find(kJobs, mode, &PickerJob::mode);
-  return found == std::end(kJobs) ? kJobs[0] : *found;
-}
+const PickerJob& pickerJob(PickFor purpose) { return kJobs[static_cast<std::size_t>(purpose)]; }
 
 Text openingSentence(const PickerJob& job, bool listIsEmpty) {
   Text sentence = Text(job.caption) + u"フォームが開かれました。" + Text(job.prompt);
@@ -55,7 +49,7 @@ Text pickerHelp(const PickerJob& job) {
   help +=
       u"ﾀﾌﾞｷｰで、ﾄﾞﾗｲﾌﾞﾎﾞｯｸｽ、ﾌｫﾙﾀﾞﾎﾞｯｸｽ、ﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽ、ボタンの順に移動します。"
       u"ﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽで、矢印ｷｰでﾌｧｲﾙを選択し、CRｷｰを叩くと";
-  help += job.mode == u"delfile" ? u"、確認ののち、ﾌｧｲﾙが削除されます。" : u"、ﾌｧｲﾙが読み込まれます。";
+  help += job.purpose == PickFor::deletion ? u"、確認ののち、ﾌｧｲﾙが削除されます。" : u"、ﾌｧｲﾙが読み込まれます。";
   if (job.tables) help += u"スペースで選択されているﾌｧｲﾙの項目内容が表示されます。";
   return help + u"中止はｴｽｹｰﾌﾟｷｰです。";
 }

@@ -1,20 +1,22 @@
 // What the file picker says and shows, job by job, apart from its form.
 #pragma once
 
+#include "files/picker/picker.h"
 #include "platform/forms/control.h"
 
 namespace zelko {
 
-// What differs between the jobs of the picker; `mode` names the job.
+// What differs between the jobs of the picker.
 struct PickerJob {
-  TextView mode;
+  PickFor purpose;
+  TextView word;  // published in `mode`
   TextView caption, pattern, command, listLabel;
-  TextView prompt;  // behind the opening sentence
-  bool tables;      // the list shows item files, each of which stands for a table
+  TextView prompt;   // behind the opening sentence
+  bool tables;       // the list shows item files, each of which stands for a table
+  bool callerWaits;  // for the word that the user gave up
 };
 
-// Empty, "YOMIKOMI" and every word that is no job of the picker: opening a table.
-const PickerJob& pickerJob(TextView mode);
+const PickerJob& pickerJob(PickFor purpose);
 
 // Said once when the form opens.
 Text openingSentence(const PickerJob& job, bool listIsEmpty);

@@ -258,7 +258,7 @@ void FrmLunch::FrmLunch_Command1_Click() {
 
 void FrmLunch::FrmLunch_Command2_Click() {
   screen().unload(*this);
-  showFilePicker();
+  showFilePicker(PickFor::table);
 }
 
 void FrmLunch::FrmLunch_Command3_Click() {

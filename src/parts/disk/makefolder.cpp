@@ -1,6 +1,7 @@
 #include "parts/disk/makefolder.h"
 
 #include "parts/disk/filewords.h"
+#include "parts/disk/ownnames.h"
 #include "platform/files/files.h"
 #include "store/table/notice.h"
 #include "voice/dialogs.h"
@@ -23,6 +24,10 @@ bool makeFolder(TextView parent) {
   if (name.empty()) return false;
   if (contains(name, u"/")) {
     tellFailure(u"フォルダ名に／は使えません。", kTitle);
+    return false;
+  }
+  if (isOwnName(name)) {
+    tellFailure(name + u"はこのプログラムが使う名前です。別の名前にして下さい", kTitle);
     return false;
   }
   const FileError error = makeDirectory(pathIn(parent, name));

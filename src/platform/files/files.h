@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -35,11 +36,16 @@ FileError openRandom(int number, TextView path, int recordLength);
 FileError createRandom(int number, TextView path, int recordLength);
 // The same for a file that is there (notFound), whose writes give pathAccess.
 FileError openRandomToRead(int number, TextView path, int recordLength);
-// A missing file gives notFound, a folder pathAccess, a pipe or socket device.
-FileError openInput(int number, TextView path);
+constexpr std::int64_t kNoBound = std::numeric_limits<std::int64_t>::max();
+constexpr std::size_t kLongestLine = std::size_t{16} << 20;
+// A missing file gives notFound, a folder pathAccess, anything else that is no regular file device. Reading goes up to
+// `most` bytes, a line or field up to `longestLine`: what a file's format never has is not taken in, and gives device.
+FileError openInput(int number, TextView path, std::int64_t most = kNoBound, std::size_t longestLine = kLongestLine);
 // Replaces what stands there. Up to 64 KiB are replaced by one write when the file is closed, so that a program that
 // is killed leaves the old text or the new one; a longer text empties the file when its first 64 KiB go out.
 FileError openOutput(int number, TextView path);
+// The same for a file that must not stand there yet (alreadyExists), not even as a link.
+FileError createOutput(int number, TextView path);
 // Both text writers refuse a file without the owner's write bit (pathAccess), a missing folder gives pathNotFound.
 FileError openAppend(int number, TextView path);
 bool isOpen(int number);
@@ -96,6 +102,9 @@ FileError makeDirectory(TextView path);
 // read-only.
 bool isReadOnly(TextView path);
 FileError setReadOnly(TextView path, bool readOnly);
+// Whether this user can't write a file that is there, whatever the attribute says: on a medium that can only be read,
+// or where the file's owner forbids it.
+bool systemForbidsWriting(TextView path);
 
 // The file of that name in any case of its letters (the exact name first, then the first by code unit), its folder
 // as given; nullopt where there is none.

@@ -146,6 +146,10 @@ FileError setReadOnly(TextView path, bool readOnly) {
   return result(chmod(nativePath(path).c_str(), readOnly ? others : others | S_IWUSR));
 }
 
+bool systemForbidsWriting(TextView path) {
+  return access(nativePath(path).c_str(), W_OK) != 0 && errorOfErrno(errno) == FileError::pathAccess;
+}
+
 std::optional<Text> findIgnoringCase(TextView path) {
   if (fileExists(path)) return Text(path);
   const std::size_t start = nameStart(path);

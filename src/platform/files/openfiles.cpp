@@ -39,7 +39,7 @@ FileError checkKind(const struct stat& status, OpenFile::Use use) {
     const bool readOnly = (status.st_mode & S_IWUSR) == 0;
     return use == OpenFile::Use::output && readOnly ? FileError::pathAccess : FileError::none;
   }
-  const bool isStream = S_ISCHR(status.st_mode) && use != OpenFile::Use::random;
+  const bool isStream = S_ISCHR(status.st_mode) && use == OpenFile::Use::output;  // a printer port
   return isStream ? FileError::none : FileError::device;
 }
 
@@ -167,9 +167,19 @@ FileError openRandomToRead(int number, TextView path, int recordLength) {
   return openRecords(number, path, recordLength, kFlags);
 }
 
-FileError openInput(int number, TextView path) {
+FileError openInput(int number, TextView path, std::int64_t most, std::size_t longestLine) {
   constexpr int kFlags[] = {O_RDONLY};
-  return openAs(number, path, OpenFile::Use::input, kFlags);
+  const FileError error = openAs(number, path, OpenFile::Use::input, kFlags);
+  if (error != FileError::none) return error;
+  OpenFile& file = *openFile(number, OpenFile::Use::input);
+  file.left = most;
+  file.longestLine = longestLine;
+  return error;
+}
+
+FileError createOutput(int number, TextView path) {
+  constexpr int kFlags[] = {O_WRONLY | O_CREAT | O_EXCL};
+  return openAs(number, path, OpenFile::Use::output, kFlags);
 }
 
 FileError openOutput(int number, TextView path) {

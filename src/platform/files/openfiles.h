@@ -30,6 +30,8 @@ struct OpenFile {
   // Text: bytes read and not yet taken, or bytes to be written.
   std::string buffer;
   std::size_t taken = 0;
+  std::int64_t left = kNoBound;  // bytes that may still be read
+  std::size_t longestLine = kLongestLine;
   bool replaces = false;  // old contents still lie behind what is written
   std::int64_t written = 0;
   FileError error = FileError::none;

@@ -2,6 +2,7 @@
 #include <filesystem>
 
 #include "platform/files/openfiles.h"
+#include "platform/files/workfiles.h"
 
 namespace zelko {
 
@@ -15,7 +16,7 @@ FileError replaceFile(TextView from, TextView to) {
   if (const fs::file_status old = fs::status(target, error); fs::is_regular_file(old))
     fs::permissions(source, old.permissions(), error);
   fs::rename(source, target, error);
-  return error ? FileError::pathAccess : FileError::none;
+  return error ? FileError::pathAccess : syncFolderOf(fromUtf8(target.string()));
 }
 
 FileError cutFile(TextView path, std::int64_t length) {

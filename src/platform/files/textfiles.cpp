@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::size_t kBufferSize = 65536;
 
-// True while bytes are left, which are fetched where needed.
+// True while bytes are left, which are fetched where needed. A file that goes on beyond its bound ends in an error.
 bool fill(OpenFile& file) {
   if (file.taken < file.buffer.size()) return true;
   if (file.error != FileError::none) return false;
@@ -24,8 +24,12 @@ bool fill(OpenFile& file) {
     got = ::read(file.descriptor, file.buffer.data(), kBufferSize);
   } while (got < 0 && errno == EINTR);
   if (got < 0) file.error = errorOfErrno(errno);
-  file.buffer.resize(got > 0 ? static_cast<std::size_t>(got) : 0);
-  return got > 0;
+  // The part of a block that is beyond the bound is not handed out.
+  if (got > file.left) file.error = FileError::device;
+  const std::int64_t taken = std::clamp<std::int64_t>(got, 0, file.left);
+  file.left -= taken;
+  file.buffer.resize(static_cast<std::size_t>(taken));
+  return taken > 0;
 }
 
 void skipBlanks(OpenFile& file) {
@@ -37,10 +41,11 @@ void skipBlanks(OpenFile& file) {
 std::string takePiece(OpenFile& file, bool commaEnds) {
   const auto ends = [commaEnds](char byte) { return byte == '\n' || byte == '\r' || (commaEnds && byte == ','); };
   std::string piece;
-  while (fill(file)) {
+  while (file.error == FileError::none && fill(file)) {
     const auto from = file.buffer.begin() + static_cast<std::ptrdiff_t>(file.taken);
     const auto end = std::find_if(from, file.buffer.end(), ends);
     piece.append(from, end);
+    if (piece.size() > file.longestLine) file.error = FileError::device;
     file.taken = static_cast<std::size_t>(end - file.buffer.begin());
     if (end == file.buffer.end()) continue;
     ++file.taken;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/forms/composition.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
 #include "platform/forms/routing.h"
@@ -74,7 +75,11 @@ void HeadlessHost::lookAtTimers() {
 
 bool HeadlessHost::fireNextTimer(std::int64_t until) {
   lookAtTimers();
-  auto next = std::min_element(timers_.begin(), timers_.end(), [](const Due& a, const Due& b) { return a.at < b.at; });
+  auto next = timers_.end();
+  for (auto due = timers_.begin(); due != timers_.end(); ++due) {
+    bool live = screen().workDepth == 0 || screen().takesInput(due->timer->form());
+    if (live && (next == timers_.end() || due->at < next->at)) next = due;
+  }
   if (next == timers_.end() || next->at > until) return false;
   elapsed_ = std::max(elapsed_, next->at);
   next->at = elapsed_ + next->interval;  // what was missed during a wait counts once
@@ -86,9 +91,9 @@ bool HeadlessHost::fireNextTimer(std::int64_t until) {
 
 void HeadlessHost::pass(std::int64_t milliseconds) {
   std::int64_t until = elapsed_ + milliseconds;
-  while (screen().workDepth == 0 && fireNextTimer(until)) {
+  while (fireNextTimer(until)) {
   }
-  elapsed_ = std::max(elapsed_, until);
+  elapsed_ = lookedAt_ = std::max(elapsed_, until);
 }
 
 void HeadlessHost::idle() { pass(0); }
@@ -99,11 +104,16 @@ void HeadlessHost::deliverLater(int nth, std::function<void()> action) {
 
 void HeadlessHost::letEventsThrough() {
   ++passes_;
-  if (deliveries_.empty()) return;
+  if (deliveries_.empty() && elapsed_ == lookedAt_) return;
   struct Work {
     Work() { ++screen().workDepth; }
     ~Work() { --screen().workDepth; }
   } work;
+  idle();
+  deliverDue();
+}
+
+void HeadlessHost::deliverDue() {
   for (std::size_t at = 0; at < deliveries_.size();) {
     if (deliveries_[at].pass > passes_) {
       ++at;
@@ -113,6 +123,31 @@ void HeadlessHost::letEventsThrough() {
     deliveries_.erase(deliveries_.begin() + static_cast<std::ptrdiff_t>(at));
     action();
   }
+}
+
+void HeadlessHost::tone(double hertz, int milliseconds) {
+  transcript_("tone " + shownNumber(hertz) + " " + std::to_string(milliseconds));
+}
+
+bool HeadlessHost::openLink(TextView link) {
+  transcript_("open " + oneLine(link));
+  return true;
+}
+
+void HeadlessHost::compose(TextView text) {
+  const std::size_t from = text.find(u'['), to = text.find(u']');
+  Composition shown{Text(text), 0, 0};
+  if (from < to && to != TextView::npos) {
+    shown.text = Text(text.substr(0, from)) + Text(text.substr(from + 1, to - from - 1)) + Text(text.substr(to + 1));
+    shown.start = static_cast<int>(from);
+    shown.length = static_cast<int>(to - from) - 1;
+  }
+  composing_ = !shown.text.empty();
+  compositionChanged(shown);
+}
+
+void HeadlessHost::endComposition() {
+  if (composing_) compose(u"");
 }
 
 void HeadlessHost::formShown(Form& form) { transcript_("+ " + toUtf8(form.name()) + " " + oneLine(form.caption())); }
@@ -137,11 +172,17 @@ bool HeadlessHost::clipboardText(Text& out) {
   return true;
 }
 
+void HeadlessHost::copyElsewhere(TextView text) {
+  clipboard_ = text;
+  others_ = Text(text);
+}
+
 bool HeadlessHost::clearClipboard() { return setClipboard(u""); }
 
 bool HeadlessHost::setClipboard(TextView text) {
   if (clipboardFails) return false;
   clipboard_ = text;
+  others_.reset();
   return true;
 }
 
@@ -153,7 +194,9 @@ bool HeadlessHost::sayOnClipboard(TextView sentence) {
 
 std::unique_ptr<SerialPort> HeadlessHost::openSerial(int port) {
   if (port < 1 || port > 3) return nullptr;
-  return std::make_unique<RecordingSerial>(transcript_, port);
+  const PortState& state = ports_[static_cast<std::size_t>(port - 1)];
+  if (state == PortState::absent || state == PortState::busy) return nullptr;
+  return std::make_unique<RecordingSerial>(transcript_, port, state);
 }
 
 }  // namespace zelko

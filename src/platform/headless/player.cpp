@@ -4,6 +4,7 @@
 
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
+#include "platform/forms/mouse.h"
 #include "platform/forms/routing.h"
 #include "platform/headless/show.h"
 
@@ -63,18 +64,27 @@ void Player::play(const Action& action) {
       return host_.seed(static_cast<std::uint32_t>(action.number));
     case Verb::clipboard:
       return host_.copyElsewhere(action.text);
+    case Verb::printer:
+      return host_.takePrinter(action.state == PortState::absent);
+    case Verb::port:
+      return host_.setPort(static_cast<int>(action.number), action.state);
     case Verb::show:
       for (const std::string& line : stateLines(action.text, host_, mainForm_)) host_.print(line);
       return;
     case Verb::expect:
       return expect(action);
     case Verb::later:
-      host_.deliverLater(static_cast<int>(action.number), [this, then = action.then] { act(*then); });
+      host_.deliverLater(static_cast<int>(action.number), [this, then = action.then] { later(*then); });
       return;
     default:
       act(action);
   }
   host_.idle();
+}
+
+void Player::later(const Action& action) {
+  if (action.verb == Verb::wait) return host_.pass(action.number);
+  act(action);
 }
 
 void Player::act(const Action& action) {
@@ -87,6 +97,8 @@ void Player::act(const Action& action) {
       return type(action);
     case Verb::commit:
       return commit(action);
+    case Verb::compose:
+      return compose(action);
     case Verb::menu:
       return chooseMenu(action);
     default:
@@ -102,12 +114,23 @@ void Player::type(const Action& action) {
   commit(action);
 }
 
-void Player::commit(const Action& action) {
+TextBox& Player::activeBox(const Action& action) const {
   needOpenForm(action);
   Control* control = screen().activeControl();
   bool box = control && (control->kind() == ControlKind::textBox || control->kind() == ControlKind::richTextBox);
   if (!box) refuse(action, "no text box has the focus");
-  if (screen().takesInput(control->form())) static_cast<TextBox*>(control)->commitText(action.text);
+  return *static_cast<TextBox*>(control);
+}
+
+void Player::commit(const Action& action) {
+  TextBox& box = activeBox(action);
+  if (!screen().takesInput(box.form())) return;
+  host_.endComposition();
+  box.commitText(action.text);
+}
+
+void Player::compose(const Action& action) {
+  if (screen().takesInput(activeBox(action).form())) host_.compose(action.text);
 }
 
 void Player::chooseMenu(const Action& action) {
@@ -125,8 +148,9 @@ void Player::point(const Action& action) {
   Control& control = controlOf(action);
   if (!screen().takesInput(control.form())) return host_.beep();
   if (action.verb == Verb::focus) return control.setFocus();
+  MouseModifiers held(action.verb == Verb::ctrlDblclick ? shift::Ctrl : shift::None);
   control.click();
-  if (action.verb == Verb::dblclick && control.form().visible()) control.doubleClick();
+  if (action.verb != Verb::click && control.form().visible()) control.doubleClick();
 }
 
 void Player::expect(const Action& action) {

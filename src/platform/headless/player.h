@@ -9,6 +9,8 @@
 
 namespace zelko {
 
+class TextBox;
+
 class Player {
  public:
   Player(HeadlessHost& host, std::vector<Action> script, Text mainForm);
@@ -23,10 +25,13 @@ class Player {
 
  private:
   void act(const Action& action);
+  void later(const Action& action);
   void type(const Action& action);
   void commit(const Action& action);
+  void compose(const Action& action);
   void chooseMenu(const Action& action);
   void point(const Action& action);
+  TextBox& activeBox(const Action& action) const;
   void expect(const Action& action);
 
   HeadlessHost& host_;

@@ -1,14 +1,27 @@
 #include "platform/headless/recorders.h"
 
 #include <cstdio>
+#include <utility>
 
 #include "platform/text/sjis.h"
 
 namespace zelko {
 namespace {
 
-// At most two places behind the point, none where there are none.
-std::string number(double value) {
+std::string lineEndsApart(std::string_view bytes) {
+  std::string shown;
+  for (char byte : toUtf8(fromUtf8(bytes))) {
+    if (byte == '\r' || byte == '\n')
+      shown += byte == '\r' ? "\\r" : "\\n";
+    else
+      shown += byte;
+  }
+  return shown;
+}
+
+}  // namespace
+
+std::string shownNumber(double value) {
   char digits[64];
   std::snprintf(digits, sizeof digits, "%.2f", value);
   std::string text = digits;
@@ -16,8 +29,6 @@ std::string number(double value) {
   if (text.back() == '.') text.pop_back();
   return text == "-0" ? "0" : text;
 }
-
-}  // namespace
 
 std::string oneLine(TextView text) {
   std::string line = toUtf8(text);
@@ -31,10 +42,21 @@ std::string oneLine(TextView text) {
   return shown.append(line, out);
 }
 
-bool RecordingPrinter::begin() {
+void RecordingPrinter::begun(TextView file) {
+  file_ = file;
   page_ = 1;
   announced_ = false;
-  return !missing;
+}
+
+bool RecordingPrinter::begin() {
+  if (missing) return false;
+  begun(u"");
+  return true;
+}
+
+bool RecordingPrinter::beginFile(TextView path) {
+  begun(path);
+  return true;
 }
 
 void RecordingPrinter::announcePage() {
@@ -44,7 +66,8 @@ void RecordingPrinter::announcePage() {
 
 void RecordingPrinter::text(double x, double y, const Font& font, TextView text) {
   announcePage();
-  std::string line = "print text " + number(x) + " " + number(y) + " " + toUtf8(font.name) + " " + number(font.size);
+  std::string line =
+      "print text " + shownNumber(x) + " " + shownNumber(y) + " " + toUtf8(font.name) + " " + shownNumber(font.size);
   if (font.bold) line += " bold";
   if (font.italic) line += " italic";
   if (font.underline) line += " underline";
@@ -62,13 +85,18 @@ void RecordingPrinter::newPage() {
   announced_ = false;
 }
 
-void RecordingPrinter::end() { transcript_("print end"); }
+void RecordingPrinter::end() { transcript_(file_.empty() ? "print end" : "print file " + oneLine(file_)); }
 
 void RecordingPrinter::kill() { transcript_("print kill"); }
 
 bool RecordingSerial::write(std::string_view bytes) {
-  transcript_("serial " + std::to_string(port_) + " " + oneLine(fromUtf8(bytes)));
+  const PortState now = state_;
+  if (now != PortState::present && now != PortState::silent) return false;
+  transcript_("serial " + std::to_string(port_) + " " + lineEndsApart(bytes));
+  if (now == PortState::present && bytes.find('\r') != std::string_view::npos) answer_ += "\r\nOK\r\n";
   return true;
 }
+
+std::string RecordingSerial::read() { return std::exchange(answer_, {}); }
 
 }  // namespace zelko

@@ -2,11 +2,8 @@
 
 #include <cstdio>
 #include <exception>
-#include <filesystem>
-#include <fstream>
-#include <iostream>
-#include <iterator>
 #include <optional>
+#include <utility>
 
 #include "platform/fault.h"
 #include "platform/files/files.h"
@@ -26,12 +23,14 @@ Transcript linesTo(std::FILE* file) {
 }
 
 std::optional<std::string> readAll(const std::string& path) {
-  if (path == "-") return std::string(std::istreambuf_iterator<char>(std::cin), {});
-  if (std::filesystem::is_directory(path)) return std::nullopt;
-  std::ifstream file(path, std::ios::binary);
-  std::string bytes{std::istreambuf_iterator<char>(file), {}};
+  std::FILE* file = path == "-" ? stdin : std::fopen(path.c_str(), "rb");
   if (!file) return std::nullopt;
-  return bytes;
+  std::string bytes;
+  char block[4096];
+  for (std::size_t got; (got = std::fread(block, 1, sizeof block, file)) > 0;) bytes.append(block, got);
+  const bool whole = std::ferror(file) == 0;
+  if (file != stdin) std::fclose(file);
+  return whole ? std::optional(std::move(bytes)) : std::nullopt;
 }
 
 int endWithFault(const Transcript& transcript, TextView text) {

@@ -1,5 +1,6 @@
 #include "platform/headless/script.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <optional>
@@ -13,18 +14,22 @@ struct NamedVerb {
   TextView name;
   Verb verb;
 };
-constexpr std::array<NamedVerb, 15> kVerbs = {{{u"key", Verb::key},
+constexpr std::array<NamedVerb, 19> kVerbs = {{{u"key", Verb::key},
                                                {u"type", Verb::type},
                                                {u"commit", Verb::commit},
+                                               {u"compose", Verb::compose},
                                                {u"menu", Verb::menu},
                                                {u"click", Verb::click},
                                                {u"dblclick", Verb::dblclick},
+                                               {u"Ctrl+dblclick", Verb::ctrlDblclick},
                                                {u"focus", Verb::focus},
                                                {u"wait", Verb::wait},
                                                {u"step", Verb::step},
                                                {u"clock", Verb::clock},
                                                {u"seed", Verb::seed},
                                                {u"clipboard", Verb::clipboard},
+                                               {u"printer", Verb::printer},
+                                               {u"port", Verb::port},
                                                {u"later", Verb::later},
                                                {u"show", Verb::show},
                                                {u"expect", Verb::expect}}};
@@ -125,8 +130,27 @@ void parseLater(TextView arguments, Action& action) {
   action.number = *nth;
   action.then = std::make_shared<Action>(parseLine(arguments.substr(blank + 1)));
   Verb verb = action.then->verb;
-  if (verb != Verb::key && verb != Verb::click && verb != Verb::menu)
-    refuse("only a key, click or menu can come later");
+  if (verb != Verb::key && verb != Verb::click && verb != Verb::menu && verb != Verb::wait)
+    refuse("only a key, click, menu or wait can come later");
+}
+
+PortState stateNamed(TextView word) {
+  static constexpr std::array<TextView, 5> names = {u"present", u"absent", u"busy", u"fails", u"silent"};
+  auto found = std::find(names.begin(), names.end(), word);
+  if (found == names.end()) refuse("present, absent, busy, fails or silent is wanted");
+  return static_cast<PortState>(found - names.begin());
+}
+
+void parsePrinter(TextView word, Action& action) {
+  action.state = stateNamed(word);
+  if (action.state != PortState::present && action.state != PortState::absent) refuse("present or absent is wanted");
+}
+
+void parsePort(TextView word, Action& action) {
+  if (!word.starts_with(u"COM") || word.size() < 5 || word[3] < u'1' || word[3] > u'3' || word[4] != u' ')
+    refuse("COM1, COM2 or COM3 is wanted");
+  action.number = word[3] - u'0';
+  action.state = stateNamed(trimmed(word.substr(5)));
 }
 
 void parseArguments(TextView arguments, Action& action) {
@@ -139,6 +163,7 @@ void parseArguments(TextView arguments, Action& action) {
     case Verb::commit:
       if (arguments.empty()) refuse("a text is wanted");
       [[fallthrough]];
+    case Verb::compose:
     case Verb::clipboard:
       action.text = unescaped(arguments);
       break;
@@ -152,6 +177,7 @@ void parseArguments(TextView arguments, Action& action) {
       break;
     case Verb::click:
     case Verb::dblclick:
+    case Verb::ctrlDblclick:
     case Verb::focus:
       if (!parseControlName(word, action.form, action.control, action.index)) refuse("FORM.CONTROL is wanted");
       break;
@@ -164,6 +190,12 @@ void parseArguments(TextView arguments, Action& action) {
       break;
     case Verb::seed:
       action.number = seedNumber(word);
+      break;
+    case Verb::printer:
+      parsePrinter(word, action);
+      break;
+    case Verb::port:
+      parsePort(word, action);
       break;
     case Verb::later:
       parseLater(arguments, action);

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/forms/keys.h"
+#include "platform/headless/recorders.h"
 #include "platform/text/daytime.h"
 #include "platform/text/text.h"
 
@@ -16,15 +17,19 @@ enum class Verb {
   key,
   type,
   commit,
+  compose,
   menu,
   click,
   dblclick,
+  ctrlDblclick,
   focus,
   wait,
   step,
   clock,
   seed,
   clipboard,
+  printer,
+  port,
   later,
   show,
   expect
@@ -37,7 +42,8 @@ struct Action {
   Text text;  // also the name of a menu entry and what is to be shown
   Text form, control;
   int index = -1;
-  std::int64_t number = 0;  // milliseconds, a seed, a count
+  std::int64_t number = 0;               // milliseconds, a seed, a count, of a port
+  PortState state = PortState::present;  // of a port, or of the printer
   DateTime when;
   std::shared_ptr<Action> then;  // of `later`
 };

@@ -4,12 +4,15 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
+#include <QTextFormat>
 #include <QTimer>
 #include <utility>
 
+#include "platform/forms/composition.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
 #include "platform/forms/keys.h"
+#include "platform/forms/mouse.h"
 #include "platform/forms/routing.h"
 #include "platform/host.h"
 #include "platform/qt/guard.h"
@@ -29,6 +32,19 @@ int physicalKey(const QKeyEvent& event, const Keystroke& stroke) {
 
 bool isMouse(QEvent::Type type) {
   return type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease || type == QEvent::MouseButtonDblClick;
+}
+
+// The stretch that the input method lays a ground under is the one being chosen; the rest is only underlined.
+Composition compositionOf(const QInputMethodEvent& event) {
+  Composition shown{fromQt(event.preeditString()), 0, 0};
+  for (const QInputMethodEvent::Attribute& part : event.attributes()) {
+    const bool ground = part.type == QInputMethodEvent::TextFormat &&
+                        part.value.value<QTextFormat>().background().style() != Qt::NoBrush;
+    if (!ground) continue;
+    if (shown.length == 0) shown.start = part.start;
+    shown.length = part.start + part.length - shown.start;
+  }
+  return shown;
 }
 
 bool isTyped(QEvent::Type type) {
@@ -158,7 +174,10 @@ void InputFilter::giveToEditor(View& view, QEvent& event) {
 bool InputFilter::committed(QInputMethodEvent& event) {
   const Control* control = screen().activeControl();
   View* view = control && screen().takesInput(control->form()) ? viewOf_(*control) : nullptr;
-  if (view && view->nativeEdit()) giveToEditor(*view, event);
+  if (!view || !view->nativeEdit()) return true;
+  const bool composed = std::exchange(composing_, !event.preeditString().isEmpty());
+  if (composed || composing_) guarded([shown = compositionOf(event)] { compositionChanged(shown); });
+  giveToEditor(*view, event);
   return true;
 }
 
@@ -176,6 +195,7 @@ bool InputFilter::mouse(FormWindow& window, QWidget& receiver, const QMouseEvent
   if (!window.form() || !screen().takesInput(*window.form())) return true;
   View* view = window.viewAt(&receiver);
   if (!view || event.button() != Qt::LeftButton) return false;
+  const MouseModifiers held(maskOf(event.modifiers()));
   Control& control = view->control;
   if (actsByClick(control.kind())) {
     if (event.type() == QEvent::MouseButtonPress) guarded([&control] { control.click(); });

@@ -44,7 +44,7 @@ class InputFilter : public QObject {
   int aloneModifier_ = 0;  // Shift, Ctrl or Alt went down and nothing else did yet
   std::vector<std::unique_ptr<QEvent>> held_;
   int holding_ = 0;
-  bool delivering_ = false, settling_ = false;
+  bool delivering_ = false, settling_ = false, composing_ = false;
 };
 
 }  // namespace zelko

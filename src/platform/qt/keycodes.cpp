@@ -112,11 +112,6 @@ int codeOf(const QKeyEvent& event) {
   return event.text().isEmpty() || event.text()[0] < QChar(u' ') ? 0 : kTypesOnly;
 }
 
-int maskOf(Qt::KeyboardModifiers modifiers) {
-  return (modifiers & Qt::ShiftModifier ? shift::Shift : 0) | (modifiers & Qt::ControlModifier ? shift::Ctrl : 0) |
-         (modifiers & Qt::AltModifier ? shift::Alt : 0);
-}
-
 int ownBit(int code) {
   if (code == key::Shift) return shift::Shift;
   if (code == key::Ctrl) return shift::Ctrl;
@@ -124,6 +119,11 @@ int ownBit(int code) {
 }
 
 }  // namespace
+
+int maskOf(Qt::KeyboardModifiers modifiers) {
+  return (modifiers & Qt::ShiftModifier ? shift::Shift : 0) | (modifiers & Qt::ControlModifier ? shift::Ctrl : 0) |
+         (modifiers & Qt::AltModifier ? shift::Alt : 0);
+}
 
 bool Keystroke::isModifier() const { return ownBit(code) != 0; }
 

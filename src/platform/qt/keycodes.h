@@ -11,6 +11,8 @@ struct Keystroke {
   char16_t ch = 0;  // what it types
   bool isModifier() const;
 };
+// The shift mask of modifiers that are held.
+int maskOf(Qt::KeyboardModifiers modifiers);
 Keystroke keystrokeOf(const QKeyEvent& event);
 
 // Whether a native editor may have a key that nobody took: typing, moving, erasing, the clipboard. Everything else

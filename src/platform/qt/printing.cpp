@@ -27,9 +27,9 @@ QFont nativeFont(const Printer::Font& font) {
 
 QString pdfFile() { return qEnvironmentVariable("ZELKO_PRINT_PDF"); }
 
-std::unique_ptr<QPrinter> openDevice() {
+std::unique_ptr<QPrinter> openDevice(const QString& file = pdfFile()) {
   auto device = std::make_unique<QPrinter>();
-  if (const QString file = pdfFile(); !file.isEmpty()) {
+  if (!file.isEmpty()) {
     device->setOutputFormat(QPrinter::PdfFormat);
     device->setOutputFileName(file);
   }
@@ -51,6 +51,12 @@ bool QtPrinter::begin() {
   if (pdfFile().isEmpty() && QPrinterInfo::defaultPrinter().isNull()) return false;
   device_ = openDevice();
   return device_->isValid();
+}
+
+bool QtPrinter::beginFile(TextView path) {
+  kill();
+  device_ = openDevice(toQt(path));
+  return device_->isValid() && paints();
 }
 
 // The first page begins with the first thing on it.

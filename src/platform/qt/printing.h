@@ -12,6 +12,7 @@ namespace zelko {
 class QtPrinter : public Printer {
  public:
   bool begin() override;
+  bool beginFile(TextView path) override;
   void text(double x, double y, const Font& font, TextView text) override;
   double textWidth(const Font& font, TextView text) override;
   double textHeight(const Font& font) override;

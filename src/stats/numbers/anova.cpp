@@ -14,8 +14,7 @@ Centred centred(std::span<const double> values) {
   Centred result;
   result.total = spread.squares;
   if (values.empty()) return result;
-  const double shift = spread.mean - values[0];
-  for (const double x : values) result.values.push_back((x - values[0]) - shift);
+  for (const double x : values) result.values.push_back((x - spread.origin) - spread.shift);
   const double lastDigit =
       4 * std::numeric_limits<double>::epsilon() * std::max(std::abs(spread.min), std::abs(spread.max));
   result.resolution = spread.n * lastDigit * lastDigit;

@@ -13,9 +13,8 @@ Matrix deviations(const Matrix& data, std::vector<Spread>& items) {
   for (int j = 0; j < data.columns; ++j) {
     for (int i = 0; i < data.rows; ++i) column[i] = data(i, j);
     items.push_back(spreadOf(column));
-    if (column.empty()) continue;
-    const double shift = items.back().mean - column[0];
-    for (int i = 0; i < data.rows; ++i) result(j, i) = (column[i] - column[0]) - shift;
+    const Spread& item = items.back();
+    for (int i = 0; i < data.rows; ++i) result(j, i) = (column[i] - item.origin) - item.shift;
   }
   return result;
 }

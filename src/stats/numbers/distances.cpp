@@ -44,7 +44,8 @@ Matrix stYuk(const Matrix& data) {
   Matrix standard = data;
   for (int k = 0; k < data.columns; ++k) {
     const Spread& item = basics.items[k];
-    for (int i = 0; i < data.rows; ++i) standard(i, k) = divided(data(i, k) - item.mean, item.u(), kName);
+    for (int i = 0; i < data.rows; ++i)
+      standard(i, k) = divided((data(i, k) - item.origin) - item.shift, item.u(), kName);
   }
   return yuk(standard);
 }

@@ -102,7 +102,7 @@ Matrix factorScores(const Matrix& data, const Covariance& basics, const Matrix& 
   for (int record = 0; record < data.rows; ++record) {
     for (int i = 0; i < data.columns; ++i) {
       const Spread& item = basics.items[i];
-      const double standard = divided(data(record, i) - item.mean, item.u(), kName);
+      const double standard = divided((data(record, i) - item.origin) - item.shift, item.u(), kName);
       for (int k = 0; k < weights.columns; ++k) scores(record, k) += weights(i, k) * standard;
     }
   }

@@ -8,7 +8,7 @@ namespace zelko::numbers {
 
 namespace {
 
-// n (difference)^2 over the product of the margins; a single, as it is told.
+// n (difference)^2 over the product of the margins; a single.
 float chiOf(double n, double difference, double margins) {
   return static_cast<float>(n * difference * difference / margins);
 }

@@ -15,7 +15,7 @@ Spread spreadOf(std::span<const double> values) {
   Spread spread;
   spread.n = static_cast<int>(values.size());
   if (values.empty()) return spread;
-  const double origin = values[0];
+  const double origin = spread.origin = values[0];
   long double sum = 0;
   spread.min = spread.max = origin;
   for (const double x : values) {
@@ -23,7 +23,7 @@ Spread spreadOf(std::span<const double> values) {
     spread.min = std::min(spread.min, x);
     spread.max = std::max(spread.max, x);
   }
-  const auto shift = static_cast<double>(sum / spread.n);
+  const double shift = spread.shift = static_cast<double>(sum / spread.n);
   long double squares = 0, left = 0;
   for (const double x : values) {
     const long double deviation = (x - origin) - shift;

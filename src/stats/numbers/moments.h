@@ -9,7 +9,8 @@ namespace zelko::numbers {
 struct Spread {
   int n = 0;
   double sum = 0, mean = 0;
-  double squares = 0;  // of the deviations from the mean
+  double origin = 0, shift = 0;  // the first value, and the mean less it: more digits than the mean has
+  double squares = 0;            // of the deviations from the mean
   double min = 0, max = 0;
 
   double sd() const;        // divisor n; 0 where n is 0

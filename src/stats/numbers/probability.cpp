@@ -84,6 +84,6 @@ Binomial Bp(int r, double p, int n) {
   return {term, sum};
 }
 
-bool sameToFourDigits(double told, double exact) { return std::abs(told - exact) < 0.00005; }
+bool sameToFourDigits(double own, double exact) { return std::abs(own - exact) < 0.00005; }
 
 }  // namespace zelko::numbers

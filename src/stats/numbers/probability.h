@@ -28,7 +28,7 @@ struct Binomial {
 // 0.
 Binomial Bp(int r, double p, int n);
 
-// Whether the two are the same to four digits behind the point; where not, the exact one is told too.
-bool sameToFourDigits(double told, double exact);
+// Whether the two are the same to four digits behind the point; where not, the exact one is spoken too.
+bool sameToFourDigits(double own, double exact);
 
 }  // namespace zelko::numbers

@@ -61,7 +61,7 @@ Shape shapeOf(std::span<const double> values, std::span<const float> counts) {
   const Spread spread = spreadOf(values);
   if (spread.squares <= 0) return shape;
   long double cubes = 0;
-  for (const double x : values) cubes += std::pow((x - spread.mean) / spread.sd(), 3);
+  for (const double x : values) cubes += std::pow(((x - spread.origin) - spread.shift) / spread.sd(), 3);
   shape.skew = static_cast<double>(cubes / spread.n);
   return shape;
 }

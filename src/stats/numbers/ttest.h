@@ -16,7 +16,7 @@ struct TTest {
   double p = 0;  // prbT, two-sided
   double exactP = 0;
   double F = 0;  // the larger SD over the smaller one, not squared; 0.00001 for a divisor of 0
-  int numeratorDf = 0, denominatorDf = 0;  // as told: n2 - 1 and n1 - 1, whichever SD is larger
+  int numeratorDf = 0, denominatorDf = 0;  // always n2 - 1 and n1 - 1, whichever SD is larger
   // The ratio of the unbiased variances, the larger above, with its own degrees and its upper tail.
   bool hasExactF = false;
   double exactF = 0;

@@ -45,6 +45,8 @@ Text cellAt(std::int32_t record, int item);
 
 // `text` in Shift-JIS padded with blanks or cut to `width` bytes: "L" keeps its left end, "R" its right end.
 std::string paddedCell(TextView text, int width, TextView alignment);
+// The same for bytes: `right` keeps and fills from the right end.
+std::string paddedBytes(std::string_view bytes, int width, bool right);
 // Puts the padded cell into the row; only the bytes of that cell change, and behind the last item the row becomes
 // blank.
 void setCell(CacheRow& row, int item, TextView text);

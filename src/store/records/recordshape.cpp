@@ -30,9 +30,11 @@ Text cellText(std::string_view record, const CellPlace& cell) {
   return text;
 }
 
-void putCell(char* record, const CellPlace& cell, TextView text) {
-  const std::string bytes = paddedCell(text, cell.width, cell.right ? u"R" : u"L");
-  std::copy_n(bytes.begin(), cell.length, record + cell.start);
+void putCell(char* record, const CellPlace& cell, TextView text) { putCellBytes(record, cell, toSjis(text)); }
+
+void putCellBytes(char* record, const CellPlace& cell, std::string_view bytes) {
+  const std::string padded = paddedBytes(bytes, cell.width, cell.right);
+  std::copy_n(padded.begin(), cell.length, record + cell.start);
   const int behind = cell.start + cell.length;
   if (cell.last && behind < kDataBytes) std::fill(record + behind, record + kDataBytes, ' ');
 }

@@ -26,6 +26,7 @@ Text cellText(std::string_view record, const CellPlace& cell);
 // Puts the padded or cut text in its place: only the bytes of the cell change, and behind the last item the record
 // becomes blank.
 void putCell(char* record, const CellPlace& cell, TextView text);
+void putCellBytes(char* record, const CellPlace& cell, std::string_view bytes);
 
 // All cells of a table, by item from 0; another number than it has is a subscript fault.
 class RecordShape {

@@ -7,6 +7,7 @@
 #include "store/records/records.h"
 #include "store/records/walkblock.h"
 #include "voice/progress.h"
+#include "voice/talk.h"
 
 namespace zelko {
 
@@ -49,7 +50,14 @@ class Walker {
 
   void touch() { block_.touch(record_.number_); }
 
+  // A question follows: the dialog goes, and opens again only when the walk itself takes its second.
   bool storeNow() {
+    asked_ = true;
+    if (late_) {
+      const Silence silence;
+      late_.reset();
+      progress_ = nullptr;
+    }
     block_.settle(record_.number_);
     isOld_ = true;
     failed_ = !block_.store(walk_.towardsHead) || failed_;
@@ -63,6 +71,8 @@ class Walker {
       const auto steps = static_cast<std::int32_t>(done_ - 1);
       if (!take(walk_.towardsHead ? highest_ - steps : lowest_ + steps)) return WalkEnd::failed;
       const bool further = visit(record_);
+      if (asked_) begun_ = host().dayTimer();
+      asked_ = false;
       block_.settle(record_.number_);
       if (failed_) return WalkEnd::failed;
       if (!further) return block_.store(walk_.towardsHead) ? WalkEnd::left : WalkEnd::failed;
@@ -122,12 +132,17 @@ class Walker {
   ChangedRecord record_;
   std::int64_t done_ = 0;
   std::int32_t blockRecords_ = kFirstBlock;
-  bool isOld_ = false, failed_ = false;
+  bool isOld_ = false, failed_ = false, asked_ = false;
 };
 
 void ChangedRecord::setCell(int item, TextView text) {
   walker_.touch();
   putCell(bytes_, shape_.at(item), text);
+}
+
+void ChangedRecord::setCellBytes(int item, std::string_view bytes) {
+  walker_.touch();
+  putCellBytes(bytes_, shape_.at(item), bytes);
 }
 
 void ChangedRecord::setData(std::string_view data) {

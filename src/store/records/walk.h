@@ -57,6 +57,8 @@ class ChangedRecord : public WalkedRecord {
  public:
   // As setCell of records.h: padded or cut to the cell, only its bytes change.
   void setCell(int item, TextView text);
+  // The same for bytes that are Shift-JIS already.
+  void setCellBytes(int item, std::string_view bytes);
   // The first 254 bytes, padded with blanks.
   void setData(std::string_view data);
   // Before a question to the user, and before anything else that could let another program or form see the file: what

@@ -1,35 +1,42 @@
 // The swap at the end of a rewrite, told in a small file beside the table, so that one that was interrupted can be
-// brought to its end: while the note stands, the work files beside it are whole and belong to the table it names.
+// brought to its end. A folder is not trusted: the note names bare files of its own folder, a table and its item file,
+// and counts only where the files are those that the rewrite made, byte for byte. docs/durability.md tells the whole.
 #pragma once
 
 #include <optional>
 
-#include "platform/text/text.h"
+#include "store/rewrite/filemark.h"
 
 namespace zelko {
 
 inline constexpr TextView kWorkFile = u"WORK.QQQ", kWorkItemFile = u"KWORK.QQQ", kSwapNote = u"SWAP.QQQ";
 
 struct Swap {
-  Text folder;  // of the work files and the note, with a "/" at its end
-  Text data;    // full name of the data file that WORK.QQQ becomes
-  Text items;   // full name of the item file that KWORK.QQQ becomes; empty where the items do not change
+  Text folder;        // of the note and the item files, with a "/" at its end
+  Text data;          // bare name of the data file that WORK.QQQ becomes
+  Text items;         // bare name of the item file that KWORK.QQQ becomes; empty where the items do not change
+  FileMark dataMark;  // of the finished work files
+  FileMark itemsMark = {};
 };
 
-// Writes the note for finished work files; false, and no note, where it does not reach the disk.
+// Writes the note for finished work files, on the disk; false, and no note, where it does not reach it.
 bool noteSwap(const Swap& swap);
-// The rest of a swap whose old data file is gone: the work files get their names, and the note goes. False where one
-// could not get its name; the note stays then.
-bool finishSwap(const Swap& swap);
 void forgetSwap(TextView folder);
 
-// The interrupted swap of that folder: the old data file is gone and its work file is whole, or only the item file has
-// not been changed yet. A note that has nothing left to tell is deleted.
+// The interrupted swap of that folder: only the item file has not been changed yet, or the data file is gone and its
+// work file is whole. A note whose swap has come to its end is deleted.
 std::optional<Swap> interruptedSwap(TextView folder);
+// The rest of such a swap; false where a file could not get its name, and the note stays.
+bool finishSwap(const Swap& swap);
 
 // Before the table of that name is opened (or, with a folder's name that ends in "/", at the start): an interrupted
-// swap beside it is told, and finished when the user says yes. False where that very table can't be opened for it: the
-// user said no, or it failed and was told; nothing is lost by either.
+// swap beside it is told, and finished when the user says yes; other work files that a kill left there are deleted when
+// the user says yes. False where that very table can't be opened for it: the user said no, or it failed and was told;
+// nothing is lost by either.
 bool offerRecovery(TextView fullName);
+
+// Before a rewrite of a table in that folder: its work files must not take the place of those of an interrupted swap,
+// which is offered again. False, told, where it is still there.
+bool roomForRewrite(TextView folder);
 
 }  // namespace zelko

@@ -12,6 +12,7 @@ enum class RewriteEnd {
   done,
   stopped,  // by the user; the table is as it was
   failed,   // a file could not be made, written or put in its place; nothing told
+  refused,  // an interrupted rewrite stands in the way, and the user was told; the table is as it was
 };
 
 // Asked on the way with the number of records that are done; false stops the work. Asked at each of the first
@@ -33,11 +34,11 @@ std::int64_t recordsOf(const RewritePlan& plan);
 // The items of the open table, with the widths that its records have on disk.
 std::vector<ItemLine> itemsOnDisk();
 
-// Rewrites the open table: WORK.QQQ, as file 2, and where `items` is given KWORK.QQQ from the second description; when
-// both are on the disk they take the place of the old files, and the item file is read again. File 1 is open
-// afterwards. Where it fails or is stopped the table, its description included, is as it was and the work files are
-// gone; only where a finished file could not take its place is the rest of the swap left for the next opening (see
-// recovery.h).
+// Rewrites the open table: WORK.QQQ, as file 2 and where the data file really lies, and where `items` is given
+// KWORK.QQQ from the second description; when both are on the disk they take the place of the old files, and the item
+// file is read again. File 1 is open afterwards. Where it fails or is stopped the table, its description included, is
+// as it was and the work files are gone; only where a finished file could not take its place is the rest of the swap
+// left for the next opening (see recovery.h).
 RewriteEnd rewriteTable(const RewritePlan& plan, const std::vector<ItemLine>* items, const KeepGoing& keepGoing);
 // The same for that many records as `read` gives them, 256 bytes each, with the items as they are.
 RewriteEnd rewriteTable(std::int32_t records, const ReadRecords& read, const KeepGoing& keepGoing);

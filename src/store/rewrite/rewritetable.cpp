@@ -1,5 +1,6 @@
 // A rewrite of the open table: the work files, and their swap for the old ones.
 #include "platform/files/blockfiles.h"
+#include "platform/files/workfiles.h"
 #include "store/records/records.h"
 #include "store/rewrite/recovery.h"
 #include "store/rewrite/rewrite.h"
@@ -29,28 +30,32 @@ bool readOld(std::int64_t first, std::size_t count, char* out) {
   return readBlock(kDataFile, first * recLen, out, size, got) == FileError::none && got == size;
 }
 
-RewriteEnd makeWork(const RewritePlan& plan, const ReadRecords& read, const KeepGoing& keepGoing) {
-  const Text name = besideTable(kWorkFile);
-  if (lengthOf(name) >= 0 && deleteFile(name) != FileError::none) return RewriteEnd::failed;
-  if (openRandom(kWork, name, recLen) != FileError::none) return RewriteEnd::failed;
-  copyPermissions(joinName(docDrive, docPath), name);  // before a byte of the table is in it
+// The new files of a rewrite, and whose place they take.
+struct Work {
+  Text table = joinName(docDrive, docPath);  // as it was opened
+  Text data = behindLinks(table);
+  Text file = data.substr(0, data.rfind(u'/') + 1) + Text(kWorkFile);  // on the file system of the data
+  Text items = itemFilePath(docPath, docDrive);
+  Text itemFile = besideTable(kWorkItemFile);
+  FileMark mark;  // of `file`
+};
+
+RewriteEnd makeWork(const RewritePlan& plan, const ReadRecords& read, const KeepGoing& keepGoing, Work& work) {
+  if (openNewRandom(kWork, work.file, recLen) != FileError::none) return RewriteEnd::failed;
+  takePermissions(kWork, work.data);  // before a byte of the table is in it
+  Marking marking;
   std::int64_t written = 0;
-  const auto write = [&written](std::string_view records) {
+  const auto write = [&](std::string_view records) {
     const bool reached = writeBlock(kWork, written, records) == FileError::none;
     written += static_cast<std::int64_t>(records.size());
+    marking.add(records);
     return reached;
   };
   RewriteEnd end = rewriteRecords(plan, read, write, keepGoing);
   if (end == RewriteEnd::done && syncFile(kWork) != FileError::none) end = RewriteEnd::failed;
   if (closeFile(kWork) != FileError::none && end == RewriteEnd::done) end = RewriteEnd::failed;
+  work.mark = marking.mark();
   return end;
-}
-
-void deleteWork() {
-  for (const TextView name : {kWorkFile, kWorkItemFile}) {
-    setReadOnly(besideTable(name), false);
-    deleteFile(besideTable(name));
-  }
 }
 
 // The records have their new shape already and only the item file could not follow: what is edited goes by the new
@@ -62,36 +67,53 @@ void adoptWorkItems() {
   itemWidth = itemWidthLoaded = otherItemWidth;
 }
 
-// The old data file is gone before the new one gets its name; what could go wrong up to there leaves the table alone.
-bool swapWork(bool itemsToo) {
-  Swap swap{besideTable(u""), behindLinks(joinName(docDrive, docPath)), {}};
-  if (itemsToo) swap.items = behindLinks(itemFilePath(docPath, docDrive));
-  if (itemsToo) copyPermissions(swap.items, swap.folder + Text(kWorkItemFile));
-  if (!noteSwap(swap)) return false;
-  closeFile(kDataFile);
-  if (deleteFile(swap.data) != FileError::none) {
-    forgetSwap(swap.folder);
-    return false;
-  }
-  if (finishSwap(swap)) return true;
-  if (itemsToo && fileExists(swap.data)) adoptWorkItems();
-  return false;
+TextView bareName(TextView path) { return path.substr(path.rfind(u'/') + 1); }
+
+std::optional<Swap> swapOf(const Work& work, bool itemsToo) {
+  Swap swap{besideTable(u""), Text(bareName(work.table)), {}, work.mark};
+  if (!itemsToo) return swap;
+  swap.items = bareName(work.items);
+  const auto mark = markOfFile(work.itemFile);
+  if (!mark) return std::nullopt;
+  swap.itemsMark = *mark;
+  return swap;
 }
 
-// What an earlier end of the program left half done must not be overwritten.
-bool folderIsFree() {
-  const auto left = interruptedSwap(besideTable(u""));
-  return !left || finishSwap(*left);
+// An item file behind a link on another file system: the new one takes the place of the link.
+bool swapItems(const Work& work) {
+  return replaceFile(work.itemFile, work.items) == FileError::none ||
+         renameOver(work.itemFile, work.items) == FileError::none;
+}
+
+// What could go wrong up to the new data file's name leaves the table alone.
+bool swapWork(const Work& work, bool itemsToo) {
+  const auto swap = swapOf(work, itemsToo);
+  if (!swap || isReadOnly(work.data) || !noteSwap(*swap)) return false;
+  closeFile(kDataFile);
+  if (renameOver(work.file, work.data) != FileError::none && lengthOf(work.file) >= 0) {
+    forgetSwap(swap->folder);
+    return false;
+  }
+  if (itemsToo && !swapItems(work)) {
+    adoptWorkItems();
+    return false;
+  }
+  forgetSwap(swap->folder);
+  return true;
 }
 
 RewriteEnd makeAndSwap(const RewritePlan& plan, const ReadRecords& read, const std::vector<ItemLine>* items,
                        const KeepGoing& keepGoing) {
-  if (!folderIsFree()) return RewriteEnd::failed;
+  if (!roomForRewrite(besideTable(u""))) return RewriteEnd::refused;
+  Work work;
   RewriteEnd end = RewriteEnd::failed;
-  if (items == nullptr || (!isReadOnly(itemFilePath(docPath, docDrive)) && makeWorkItems(*items)))
-    end = makeWork(plan, read, keepGoing);
-  if (end == RewriteEnd::done && !swapWork(items != nullptr)) end = RewriteEnd::failed;
-  if (end != RewriteEnd::done && !interruptedSwap(besideTable(u""))) deleteWork();
+  if (items == nullptr || (!isReadOnly(work.items) && makeWorkItems(*items)))
+    end = makeWork(plan, read, keepGoing, work);
+  if (end == RewriteEnd::done && !swapWork(work, items != nullptr)) end = RewriteEnd::failed;
+  if (end != RewriteEnd::done && !interruptedSwap(besideTable(u""))) {
+    removeOwnName(work.file);
+    removeOwnName(work.itemFile);
+  }
   return end;
 }
 

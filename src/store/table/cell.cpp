@@ -30,14 +30,14 @@ Text cellOfRow(const CacheRow& row, int item) { return cellText({row.data(), row
 Text cellOfCur(int item) { return cellOfRow(recCache[1], item); }
 
 std::string paddedCell(TextView text, int width, TextView alignment) {
-  std::string bytes = toSjis(text);
+  return paddedBytes(toSjis(text), width, alignment == u"R");
+}
+
+std::string paddedBytes(std::string_view bytes, int width, bool right) {
   const auto wanted = static_cast<std::size_t>(std::max(width, 0));
-  if (alignment == u"R") {
-    if (bytes.size() > wanted) return bytes.substr(bytes.size() - wanted);
-    return std::string(wanted - bytes.size(), ' ') + bytes;
-  }
-  bytes.resize(wanted, ' ');
-  return bytes;
+  if (!right) return std::string(bytes.substr(0, wanted)) + std::string(wanted - std::min(wanted, bytes.size()), ' ');
+  if (bytes.size() > wanted) return std::string(bytes.substr(bytes.size() - wanted));
+  return std::string(wanted - bytes.size(), ' ') + std::string(bytes);
 }
 
 void setCell(CacheRow& row, int item, TextView text) { putCell(row.data(), placeOf(item), text); }

@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "platform/fault.h"
-#include "platform/files/files.h"
+#include "platform/files/workfiles.h"
 #include "platform/text/number.h"
 #include "store/table/table.h"
 
@@ -14,6 +14,7 @@ namespace {
 constexpr int kItemFile = 2;
 constexpr std::size_t kApostrophe = 6;                            // its position in the first line
 constexpr std::size_t kNameStart = 7, kNameLength = 254 - 7 + 1;  // characters of a name line
+constexpr std::int64_t kLongestFile = 1 << 20;                    // several times what 255 items fill
 constexpr std::size_t kWidthLength = 11 - 7 + 1;                  // from the same place
 
 // A number of the file, and one as a 16-bit integer; none where it does not fit, for a bad file is no fault of the
@@ -98,7 +99,7 @@ bool writeLines(const TableDescription& table) {
 }  // namespace
 
 ReadResult readDescription(TextView itemFile, TableDescription& out) {
-  if (openInput(kItemFile, itemFile) != FileError::none) return ReadResult::broken;
+  if (openInput(kItemFile, itemFile, kLongestFile) != FileError::none) return ReadResult::broken;
   TableDescription table;
   const ReadResult result = readOpenFile(table);
   closeFile(kItemFile);
@@ -107,7 +108,7 @@ ReadResult readDescription(TextView itemFile, TableDescription& out) {
 }
 
 bool writeDescription(TextView itemFile, const TableDescription& description) {
-  if (openOutput(kItemFile, itemFile) != FileError::none) return false;
+  if (openNewOutput(kItemFile, itemFile) != FileError::none) return false;
   const bool written = writeLines(description);
   const bool closed = closeFile(kItemFile) == FileError::none;
   if (!written || !closed) deleteFile(itemFile);

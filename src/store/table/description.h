@@ -30,8 +30,8 @@ enum class ReadResult {
 // Reads the item file of that name as file 2, which is closed afterwards. `out` is filled only on success.
 ReadResult readDescription(TextView itemFile, TableDescription& out);
 
-// Writes as file 2, replacing what stands there. False where a byte did not reach the file; what there is of it is
-// deleted then.
+// Writes a new work file, as file 2, on the disk. False where a byte did not reach it; what there is of it is deleted
+// then.
 bool writeDescription(TextView itemFile, const TableDescription& description);
 
 }  // namespace zelko

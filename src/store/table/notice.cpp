@@ -22,4 +22,6 @@ void tellReadOnly() {
 
 void tellWriteError() { tellFailure(u"書き込み時にエラーが出ました。", u"書き込みエラー"); }
 
+void tellReadError() { tellFailure(u"読み込み時にエラーが出ました。", u"読み込みエラー"); }
+
 }  // namespace zelko

@@ -11,5 +11,6 @@ void tellFailure(TextView text, TextView title);
 void tellReadOnly();
 // The notice that a write did not reach the file.
 void tellWriteError();
+void tellReadError();
 
 }  // namespace zelko

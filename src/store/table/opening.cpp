@@ -1,7 +1,10 @@
 // Opening a table by its full name.
 #include "store/table/opening.h"
 
+#include <limits>
+
 #include "platform/files/files.h"
+#include "platform/text/number.h"
 #include "store/records/records.h"
 #include "store/rewrite/recovery.h"
 #include "store/table/cursor.h"
@@ -14,6 +17,8 @@ namespace zelko {
 namespace {
 
 constexpr int kDataFile = 1;
+// The new line behind the last record has a number too, of 32 bits.
+constexpr std::int64_t kMostRecords = std::numeric_limits<std::int32_t>::max() - 1;
 
 // Unlike a reload, the rows outside the file are slashed, so that the sheet shows them as such.
 void fillFirstRows() {
@@ -49,6 +54,11 @@ void openTable(TextView fullName, Text& error) {
   closeAll();
   if (openRandom(kDataFile, joinName(drive, path), recLen) != FileError::none) {
     tellFailure(u"Zelkoﾌｧｲﾙでないか、項目設定を記述したﾌｧｲﾙが不良です", u"項目挿入不可能");
+    return;
+  }
+  if (fileLength(kDataFile) / recLen > kMostRecords) {
+    closeAll();
+    tellFailure(u"記録が" + decimal(kMostRecords) + u"件を超えるﾌｧｲﾙは扱えません", u"ﾌｧｲﾙ長エラー");
     return;
   }
   adopt(table);

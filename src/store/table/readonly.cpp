@@ -32,6 +32,12 @@ bool refusedAsReadOnly() {
 void toggleReadOnly() {
   if (docPath.empty()) return host().beep();
   const bool lock = !tableIsReadOnly();
+  // There is no attribute to be released where the medium itself refuses.
+  if (lock && systemForbidsWriting(joinName(docDrive, docPath))) {
+    showReadOnlyMark(true);
+    return tellFailure(u"書き込みのできない媒体か、書き込みの許されていないﾌｧｲﾙです。ここでは解除出来ません",
+                       titleOf(false));
+  }
   if (!confirmed(lock)) return;
   // What was typed before the lock is still stored; behind it nothing is.
   if (lock && !flushRec()) return;

@@ -71,21 +71,6 @@ void tellLeftOut(std::size_t items) {
          u"抽出ファイル");
 }
 
-void endExtraction(FrmBROCK& dialog, const Text& fullName) {
-  askWhereToWork(
-      u"元のﾌｧｲﾙで作業しますか、抽出ﾌｧｲﾙにいきますか。元のﾌｧｲﾙの場合　はい　、抽出ﾌｧｲﾙの場合 いいえ "
-      u"を押して下さい。",
-      u"作業終了しました!");
-  mode.clear();
-  if (msgAnswer == kNo) {
-    workInOutput(fullName, dialog);
-    return;
-  }
-  talkLast = 0;
-  screen().unload(dialog);
-  endJob(JobEnd::done, false, {});
-}
-
 }  // namespace
 
 void extractBlocks(FrmBROCK& dialog, const BlockRanges& ranges) {
@@ -103,6 +88,7 @@ void extractBlocks(FrmBROCK& dialog, const BlockRanges& ranges) {
   if (!output.replace(fullName)) return;
   switch (makeTable(*plan, output)) {
     case RewriteEnd::failed:
+    case RewriteEnd::refused:
       return tellWriteError();
     case RewriteEnd::stopped:
       return talkBehindDialog(u"中止しました。抽出ﾌｧｲﾙは作られていません。");
@@ -110,7 +96,10 @@ void extractBlocks(FrmBROCK& dialog, const BlockRanges& ranges) {
       break;
   }
   tellLeftOut(plan->leftOut);
-  endExtraction(dialog, fullName);
+  endInOutput(
+      fullName, dialog,
+      u"元のﾌｧｲﾙで作業しますか、抽出ﾌｧｲﾙにいきますか。元のﾌｧｲﾙの場合　はい　、抽出ﾌｧｲﾙの場合 いいえ を押して下さい。",
+      u"作業終了しました!");
 }
 
 }  // namespace zelko

@@ -55,8 +55,7 @@ Text endWords(JobEnd end, std::int32_t records) {
 void closeAndEnd(JobEnd end, const Text& fullName, const Text& words) {
   bool toOutput = false;
   if (end == JobEnd::done) {
-    askWhereToWork(words + Text(kWhere), u"作業終了しました!");
-    toOutput = msgAnswer == kNo;
+    toOutput = askWhereToWork(words + Text(kWhere), u"作業終了しました!") == WorkIn::output;
   }
   mode.clear();
   if (toOutput) {
@@ -87,9 +86,7 @@ void openAppending() {
   if (rangeKind != kRecords)
     return showOK(u"Alt+↓↑で転記記録範囲を指定した上で、本ﾒﾆｭｰを選択して下さい", u"記録ﾌﾞﾛｯｸの先指定");
   if (!beginJob(false, true)) return;
-  mode = kJob;
-  showOutputDialog();
-  if (mode == kJob) mode.clear();
+  showOutputDialog(kJob);
 }
 
 }  // namespace

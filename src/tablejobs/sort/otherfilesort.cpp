@@ -7,6 +7,7 @@
 #include "store/records/records.h"
 #include "store/records/walk.h"
 #include "store/rewrite/rewrite.h"
+#include "tablejobs/sort/sorting.h"
 #include "voice/progress.h"
 
 namespace zelko {
@@ -100,14 +101,7 @@ class NewRecords {
 JobEnd writeOrder(RecordSpan span, const OtherOrder& found, Progress& progress, std::int64_t done) {
   const NewRecords records(span, found.records, recCount());
   const auto read = [&](std::int64_t first, std::size_t count, char* out) { return records.read(first, count, out); };
-  switch (rewriteTable(records.count(), read, [&](std::int64_t at) { return progress.step(done + at); })) {
-    case RewriteEnd::done:
-      return JobEnd::done;
-    case RewriteEnd::stopped:
-      return JobEnd::stopped;
-    default:
-      return JobEnd::failed;
-  }
+  return jobEndOf(rewriteTable(records.count(), read, [&](std::int64_t at) { return progress.step(done + at); }));
 }
 
 }  // namespace

@@ -53,10 +53,8 @@ void sortIntoFile(const Text& fullName) {
 
 void openSortIntoFile() {
   if (!beginJob(false, true)) return;
-  mode = kJob;
   if (talkMode != 0) waitSec(talkGap);
-  showOutputDialog();
-  if (mode == kJob) mode.clear();
+  showOutputDialog(kJob);
 }
 
 }  // namespace
@@ -80,8 +78,7 @@ bool runSortOutput(const Text& fullName, const std::vector<SortKey>& keys, TextV
   if (end == JobEnd::done && !output.finish()) end = JobEnd::failed;
   bool toOutput = false;
   if (end == JobEnd::done) {
-    askWhereToWork(question, u"作業終了しました!");
-    toOutput = msgAnswer == kNo;
+    toOutput = askWhereToWork(question, u"作業終了しました!") == WorkIn::output;
   }
   output.takeBack();
   mode.clear();

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "platform/files/blockfiles.h"
+#include "platform/files/workfiles.h"
 #include "platform/host.h"
 #include "store/records/appender.h"
 #include "store/records/records.h"
@@ -41,11 +42,6 @@ bool readSorted(const SortRange& range, std::int64_t first, std::size_t count, c
   return true;
 }
 
-void removeOwnName(const Text& name) {
-  setReadOnly(name, false);
-  deleteFile(name);
-}
-
 JobEnd copyWhole(OwnedFile& copy, const SortGoesOn& goesOn) {
   std::string block(static_cast<std::size_t>(kBlock), '\0');
   const std::int64_t length = std::int64_t{recCount()} * recLen;
@@ -62,6 +58,20 @@ JobEnd copyWhole(OwnedFile& copy, const SortGoesOn& goesOn) {
 
 }  // namespace
 
+JobEnd jobEndOf(RewriteEnd end) {
+  switch (end) {
+    case RewriteEnd::done:
+      return JobEnd::done;
+    case RewriteEnd::stopped:
+      return JobEnd::stopped;
+    case RewriteEnd::refused:
+      return JobEnd::refused;
+    case RewriteEnd::failed:
+      break;
+  }
+  return JobEnd::failed;
+}
+
 std::optional<SortRange> rangeInMemory(std::int32_t first, std::int32_t last) {
   checkSortable(first, last);
   std::string records(static_cast<std::size_t>(std::max(0, last - first + 1)) * kRecord, '\0');
@@ -72,7 +82,7 @@ std::optional<SortRange> rangeInMemory(std::int32_t first, std::int32_t last) {
 JobEnd makeSafetyCopy(const SortGoesOn& goesOn) {
   const Text name = besideTable(kSafetyCopy);
   OwnedFile copy;
-  removeOwnName(name);
+  if (removeOwnName(name) != FileError::none) return JobEnd::failed;
   if (copy.createRandom(name, recLen) != FileError::none) return JobEnd::failed;
   copyPermissions(joinName(docDrive, docPath), name);
   JobEnd end = copyWhole(copy, goesOn);
@@ -91,8 +101,8 @@ JobEnd sortInPlace(std::int32_t first, std::int32_t last, const std::vector<Sort
     host().letEventsThrough();
     return true;
   };
-  if (rewriteTable(recCount(), read, onlyLook) != RewriteEnd::done) return JobEnd::failed;
-  return finished ? JobEnd::done : JobEnd::stopped;
+  const JobEnd end = jobEndOf(rewriteTable(recCount(), read, onlyLook));
+  return end != JobEnd::done || finished ? end : JobEnd::stopped;
 }
 
 JobEnd sortInto(RecordAppender& output, std::int32_t first, std::int32_t last, const std::vector<SortKey>& keys,

@@ -16,6 +16,9 @@ inline constexpr TextView kSafetyCopy = u"zlk.$$$";
 // The records of the open table, in memory; nullopt where they can't be read. Faults where the range is beyond sorting.
 std::optional<SortRange> rangeInMemory(std::int32_t first, std::int32_t last);
 
+enum class RewriteEnd;
+JobEnd jobEndOf(RewriteEnd end);
+
 // Copies the whole table to the safety copy, which replaces an older one. A copy that was stopped or failed is gone.
 JobEnd makeSafetyCopy(const SortGoesOn& goesOn);
 

@@ -64,7 +64,7 @@ void openSortByKeys() {
 void openSortByKeysIntoFile() { showSortTable(kSortByKeysJob); }
 
 void sortByTable(frmMSORT& table) {
-  if (table.intoFile) return showOutputDialog();
+  if (table.intoFile) return showOutputDialog(kSortByKeysJob);
   sortTableInPlace(std::vector<SortKey>(table.keys()));
 }
 

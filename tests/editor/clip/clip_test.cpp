@@ -1,12 +1,14 @@
 // Copy, the two pastes and the undo, as the user meets them: sentences, stops, foreign files, and every byte.
 #include "editor/clip/clip.h"
 
-#include <algorithm>
+#include <functional>
 
 #include "editor/clip/clip_session.h"
+#include "fulldisk.h"
 #include "platform/files/files.h"
 #include "platform/text/sjis.h"
 #include "store/table/cursor.h"
+#include "store/table/itemfile.h"
 #include "voice/talk.h"
 
 using namespace zelko;
@@ -95,16 +97,15 @@ TEST_CASE_FIXTURE(ClipSession, "an undo gives the bytes back, also those that no
 TEST_CASE_FIXTURE(ClipSession, "a stop takes back what was pasted, at whichever record it comes") {
   writeClip(clip(3, 1, "\"a\"\n\"b\"\n\"c\"\n"));
   const std::string before = readBytes(data());
-  for (const int at : {1, 2, 3}) {
+  for (int at = 1; at <= 6; ++at) {
     CAPTURE(at);
     cursorTo(1, 3);
     play("later " + std::to_string(at) + " key Esc\nkey Ctrl+O");
     CHECK(readBytes(data()) == before);
     CHECK_FALSE(isOpen(3));
     CHECK_FALSE(isOpen(4));
-    const std::string backup = readBytes(folder() / "ZLKCLip.bak");
-    CHECK(std::count(backup.begin(), backup.end(), '\n') == at);
   }
+  const std::string old = file("ZLKCLip");
   select(2, 1, 3, 0, 3);
   bool copied = true;
   play("later 2 key Esc");
@@ -112,7 +113,7 @@ TEST_CASE_FIXTURE(ClipSession, "a stop takes back what was pasted, at whichever 
   CHECK_FALSE(copied);
   CHECK(rangeKind == 0);
   CHECK_FALSE(holds(show("clipboard"), "太郎"));
-  CHECK(file("ZLKCLip") == "3\n1\n2\n3\n4\n0\n1\n2\n3\n\"1  \"\n\"太郎  \"\n\"  12\"\n\"abcde\"\n");
+  CHECK(file("ZLKCLip") == old);
 
   // A stopped insertion pastes nothing.
   writeClip(kClip);
@@ -165,34 +166,66 @@ TEST_CASE_FIXTURE(ClipSession, "clip files by other hands") {
   CHECK(readBytes(data()) == before);
 }
 
-TEST_CASE_FIXTURE(ClipSession,
-                  "a backup that does not belong here is refused, one that was cut off ends where it is whole") {
-  struct Row {
-    std::string backup, second;
-    bool refused;
+TEST_CASE_FIXTURE(ClipSession, "an undo writes into no other table and no other state, and says so") {
+  const auto pasted = [&] {
+    writeClip(kClip);
+    cursorTo(1, 1);
+    press("Ctrl+O");
+    return readBytes(data());
   };
-  const std::vector<Row> cases = {
-      {"", kRows[1], true},
-      {"x\r\n\"zz\"\r\n", kRows[1], true},
-      {"0\r\n\"zz\"\r\n", kRows[1], true},
-      {"5\r\n\"zz\"\r\n", kRows[1], true},
-      {"99999999999\r\n\"zz\"\r\n", kRows[1], true},
-      {"2\r\n\"zz\"\r\n", "zz", false},
-      {" 2 \r\nzz\r\n", "zz", false},
-      {"2\r\n\"zz", kRows[1], false},
-  };
-  const std::string before = readBytes(data());
-  for (const Row& row : cases) {
-    CAPTURE(row.backup);
-    writeBytes(folder() / "ZLKclip.bak", row.backup);
+  const auto refused = [&] {
+    const std::string bytes = readBytes(data());
     press("Ctrl+I");
     said();
     press("Y");
-    CHECK(holds(said(), "最近張り付け操作をした形跡はありません") == row.refused);
-    if (row.refused) press("Enter");
-    CHECK(cells(2) == row.second);
-    CHECK(records() == 3);
-    replaceData(before);
+    CHECK(holds(said(), "最後の貼り付けは、今のこの表には合いません。取り消しはしません"));
+    press("Enter");
+    CHECK(readBytes(data()) == bytes);
+  };
+  struct Row {
+    const char* story;
+    std::function<void()> between;
+  };
+  const std::vector<Row> rows = {
+      {"a record inserted above", [&] { menu("mnuINSREC1"); }},
+      {"the table replaced",
+       [&] {
+         run([&] { closeFile(1); });
+         const std::string bytes = readBytes(data());
+         std::filesystem::rename(data(), folder() / "old");
+         writeBytes(data(), bytes);
+         run([] { REQUIRE(reopenData()); });
+       }},
+      {"shorter than before", [&] { replaceData(readBytes(data()).substr(0, 512)); }},
+      {"a backup by other hands", [&] { writeBytes(folder() / "ZLKCLip.bak", "2\r\n\"zz\"\r\n"); }},
+      {"cut off", [&] { writeBytes(folder() / "ZLKCLip.bak", readBytes(folder() / "ZLKCLip.bak").substr(0, 9)); }},
+      {"nothing told", [&] { std::filesystem::remove(folder() / "ZLKCLip.for"); }},
+  };
+  for (const Row& row : rows) {
+    CAPTURE(row.story);
+    pasted();
+    row.between();
+    refused();
+  }
+}
+
+TEST_CASE_FIXTURE(ClipSession, "a full disk keeps the old clip file and the old backup, and no record changes") {
+  writeClip(kClip);
+  cursorTo(1, 1);
+  press("Ctrl+O");
+  const auto files = [&] { return readBytes(data()) + file("ZLKCLip") + file("ZLKCLip.bak") + file("ZLKCLip.for"); };
+  const std::string before = files();
+  for (const auto& work : {std::function<void()>([&] { press("Ctrl+O"); }), std::function<void()>([&] {
+                             select(2, 1, 3, 0, 3);
+                             run([] { clipCopy(); });
+                           })}) {
+    {
+      const FullDisk full(8);
+      work();
+    }
+    CHECK(holds(said(), "書き込み時にエラーが出ました。"));
+    press("Enter");
+    CHECK(files() == before);
   }
 }
 
@@ -212,9 +245,9 @@ TEST_CASE_FIXTURE(ClipSession, "what is missing, locked or full is told, and the
        "張り付けるべきｸﾘｯﾌﾟﾌｧｲﾙがありません。矢印またはshift+矢印でClip範囲を指定した上で本ﾒﾆｭｰを選択して下さい.");
 
   writeClip(kClip);
-  std::filesystem::create_directory(folder() / "ZLKCLip.bak");
+  std::filesystem::create_directory(folder() / "CLIPBAK.QQQ");
   told("Ctrl+O", "書き込み時にエラーが出ました。");
-  std::filesystem::remove(folder() / "ZLKCLip.bak");
+  std::filesystem::remove(folder() / "CLIPBAK.QQQ");
 
   setReadOnly(fromUtf8(data().string()), true);
   for (const char* key : {"Ctrl+O", "Ctrl+Y", "Ctrl+I"}) told(key, "書き込み禁止ﾌｧｲﾙです。");

@@ -39,6 +39,7 @@ struct SecondStore {
   std::vector<std::vector<std::string>> clip;
   std::vector<Record> backup;
   std::size_t backupFirst = 0;  // from 0
+  bool fits = false;            // no record was inserted, deleted or moved since the paste
 
   void copy(std::size_t r1, std::size_t r2, std::size_t i1, std::size_t i2) {
     clip.clear();
@@ -52,6 +53,7 @@ struct SecondStore {
     if (clip.empty()) return;
     backup.clear();
     backupFirst = at;
+    fits = true;
     for (std::size_t k = 0; k < clip.size(); ++k) {
       if (at + k >= records.size()) records.emplace_back(kEnd, ' ');
       Record& record = records[at + k];
@@ -62,14 +64,12 @@ struct SecondStore {
     }
   }
   void insert(std::size_t at, std::size_t count) {
+    fits = false;
     records.insert(records.begin() + static_cast<std::ptrdiff_t>(at), count, Record(kEnd, ' '));
   }
   void undo() {
-    if (backup.empty() || backupFirst > records.size()) return;
-    for (std::size_t k = 0; k < backup.size(); ++k) {
-      if (backupFirst + k >= records.size()) records.emplace_back();
-      records[backupFirst + k] = backup[k];
-    }
+    if (!fits) return;
+    for (std::size_t k = 0; k < backup.size(); ++k) records[backupFirst + k] = backup[k];
   }
   std::string bytes() const {
     std::string all;
@@ -82,7 +82,7 @@ class PasteFixture : public EditorFixture {
  public:
   void start() {
     std::filesystem::remove(folder() / "ZLKCLip");
-    std::filesystem::remove(folder() / "ZLKCLip.bak");
+    for (const char* file : {"ZLKCLip.bak", "ZLKCLip.for"}) std::filesystem::remove(folder() / file);
     open(kItems, {{u"1", u"ab c", u"7"}, {u"2", u"", u"123"}, {u"3", u" x", u""}}, 0);
     second = {};
     second.records = {"1 ab c  7", "2     123", "3  x     "};
@@ -139,10 +139,12 @@ class PasteFixture : public EditorFixture {
         run([] { deleteRecords(1, 1); });
         second.copy(0, 0, 0, 2);
         second.records.erase(second.records.begin());
+        second.fits = false;
         return;
       default:
         if (count < 2) return;
         run([=] { moveRecords(1, 1, count + 1, docPath, docDrive); });
+        second.fits = false;
         second.records.push_back(second.records.front());
         second.records.erase(second.records.begin());
     }

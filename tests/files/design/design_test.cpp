@@ -152,7 +152,7 @@ TEST_CASE_FIXTURE(Designer, "the items of a CSV file are designed from the picke
   writeBytes(path("x.csv"), "a,b\r\n");
   Text read;
   registerCommand(u"csvREAD", [&read] { read = pickedFile(); });
-  pick(u"");
+  pick(PickFor::table);
   play({"click frmDISK.Command2"});
   CHECK(play({"key Esc", "show forms"}).ends_with("forms frmDISK"));
   play({"click frmDISK.Command2", "key Enter", "key Enter", "type 4", "focus frmDESIGN.text1", "commit 0"});

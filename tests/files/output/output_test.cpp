@@ -119,7 +119,7 @@ TEST_CASE_FIXTURE(Saver, "what was typed and not yet stored is in the copy") {
 
 TEST_CASE_FIXTURE(FilesFixture, "a text file becomes a table, a line a record; what is too long is told") {
   writeBytes(path("memo.dat"), toSjis(u"一行目\r\n\r\n") + std::string(253, 'a') + toSjis(u"漢字\r\n"));
-  pick(u"CVZLKF");
+  pick(PickFor::text);
   play({"key Down", "key Enter"});
   CHECK(play({"show formHOZON.RichTextBox1"}) == "formHOZON.RichTextBox1 ~/memo_ZELKO.dat");
   play({"key Enter"});

@@ -32,7 +32,7 @@ TEST_CASE_FIXTURE(FilesFixture, "a change of folder is reported once, by the box
   for (const char* name : {"Kx.txt", "ky.TXT", "Kz.txt", "Kzz.txt", "K.txt", "other.txt"})
     writeBytes(folder() / "中" / name, "");
   fs::create_directories(folder() / "空");
-  pick(u"YOMIKOMI");
+  pick(PickFor::table);
   heard();
   hear(*this,
        {{"arrows mark a folder",
@@ -59,14 +59,14 @@ TEST_CASE_FIXTURE(FilesFixture, "a change of folder is reported once, by the box
 TEST_CASE_FIXTURE(FilesFixture, "a report that the gate held back is heard at the next move") {
   fs::create_directories(folder() / "中");
   writeBytes(folder() / "中" / "Kx.txt", "");
-  pick(u"");
+  pick(PickFor::table);
   play({"focus frmDISK.Dir1", "key Down"});
   CHECK(play({"step 0", "key Enter", "focus frmDISK.File1", "step 1", "key Down", "key Home"}) ==
         "~/中にﾌｫﾙﾀﾞが変更されましたx.txt等があります ﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽ / beep");
 }
 
 TEST_CASE_FIXTURE(FilesFixture, "the root folder parts a file from its folder by one stroke") {
-  pick(u"");
+  pick(PickFor::table);
   play({"focus frmDISK.Dir1", "key Home", "key Enter"});
   CHECK(play({"show frmDISK.Dir1"}).find("> /") != std::string::npos);
   CHECK(play({"focus frmDISK.File1", "key Shift+PageDown"}).find("フォルダは/です。") != std::string::npos);

@@ -24,7 +24,7 @@ double secondsOf(const std::function<void()>& work) {
 
 TEST_CASE_FIXTURE(FilesFixture, "a folder of 20,000 files") {
   for (int i = 0; i < 20000; ++i) writeBytes(folder() / ("K" + std::to_string(i) + ".txt"), "");
-  CHECK(secondsOf([&] { pick(u""); }) < 1.0);
+  CHECK(secondsOf([&] { pick(PickFor::table); }) < 1.0);
   heard();
   CHECK(secondsOf([&] {
           for (int i = 0; i < 100; ++i) Fixture::press("Down");
@@ -35,7 +35,7 @@ TEST_CASE_FIXTURE(FilesFixture, "a folder of 20,000 files") {
 
 TEST_CASE_FIXTURE(FilesFixture, "a folder that can't be opened") {
   fs::create_directories(folder() / "中");
-  pick(u"");
+  pick(PickFor::table);
   play({"focus frmDISK.Dir1", "key Down"});
   SUBCASE("because it is gone") { fs::remove(folder() / "中"); }
   SUBCASE("because nobody may read it") {
@@ -55,7 +55,7 @@ TEST_CASE_FIXTURE(FilesFixture, "a drive that is not ready leaves the old one") 
   fs::create_directories(folder() / "home");
   const std::string home = getenv("HOME") ? getenv("HOME") : "";
   setenv("HOME", path("home").c_str(), 1);
-  pick(u"");
+  pick(PickFor::table);
   setenv("HOME", home.c_str(), 1);
   heard();
   play({"focus frmDISK.Drive1"});
@@ -72,7 +72,7 @@ TEST_CASE_FIXTURE(FilesFixture, "links in circles end in a sentence") {
   fs::create_directory_symlink(".", folder() / "l");
   fs::create_symlink("Kself.txt", folder() / "Kself.txt");
   fs::create_symlink("nowhere", folder() / "Kgone.txt");
-  pick(u"");
+  pick(PickFor::table);
   play({"focus frmDISK.Dir1", "key End", "key Enter"});
   for (int step = 0; step < 60; ++step) play({"key End", "key Enter"});
   CHECK(play({"show forms"}) == "forms frmDISK FrmOK");
@@ -86,7 +86,7 @@ TEST_CASE_FIXTURE(FilesFixture, "names that are no text are said and opened") {
   const std::string longest = "K" + std::string(250, 'n') + ".txt";
   writeBytes(folder() / longest, "");
   const Text shown = table(u"山\xFA30");
-  pick(u"");
+  pick(PickFor::table);
   heard();
   CHECK(play({"key Down"}) == "？😀.txtﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽ");
   CHECK(play({"key Down"}) == longest.substr(1) + "ﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽ");

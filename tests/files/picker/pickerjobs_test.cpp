@@ -41,7 +41,7 @@ TEST_CASE_FIXTURE(FilesFixture, "another table takes the place of the open one, 
 TEST_CASE_FIXTURE(FilesFixture, "a table whose files differ in case is one table") {
   table(u"meibo");
   fs::rename(folder() / "Kmeibo.txt", folder() / "kMEIBO.TXT");
-  pick(u"");
+  pick(PickFor::table);
   play({"key Down", "key Enter"});
   CHECK(docPath == fromUtf8(path("meibo.txt")));
   CHECK_FALSE(exists("MEIBO.TXT"));
@@ -104,7 +104,7 @@ TEST_CASE_FIXTURE(FilesFixture, "a table is deleted with its item file, after a 
 
 TEST_CASE_FIXTURE(FilesFixture, "a folder is made in the marked one") {
   fs::create_directories(folder() / "中");
-  pick(u"");
+  pick(PickFor::table);
   play({"focus frmDISK.Dir1", "key Down", "key Alt+F"});
   CHECK(play({"show frmTin"}).find("caption フォルダの作成") != std::string::npos);
   CHECK(play({"commit 新しい", "key Enter"}).find("フォルダ作成作成されました新しい") != std::string::npos);
@@ -128,7 +128,7 @@ TEST_CASE_FIXTURE(FilesFixture, "a reference is another table, read beside the o
   writeBytes(folder() / "Kc.txt", readBytes(folder() / "Ka.txt"));
   Text served;
   registerCommand(u"REF", [&] { served = pickedFile(); });
-  pick(u"REF");
+  pick(PickFor::reference);
   play({"key Down", "key Enter"});
   CHECK(play({"show FrmOK"}).find("caption 確認") != std::string::npos);
   play({"key Enter", "key Down", "key Down", "key Enter"});

@@ -80,6 +80,8 @@ int ftruncate(int file, off_t length) noexcept {
 
 int fdatasync(int file) { return stumbles() ? -1 : real<int(int)>("fdatasync")(file); }
 
+int fsync(int file) { return stumbles() ? -1 : real<int(int)>("fsync")(file); }
+
 int unlink(const char* name) noexcept { return stumbles() ? -1 : real<int(const char*)>("unlink")(name); }
 
 int rename(const char* from, const char* to) noexcept {
@@ -91,6 +93,8 @@ int renameat2(int oldFolder, const char* from, int newFolder, const char* to, un
                     : real<int(int, const char*, int, const char*, unsigned)>("renameat2")(oldFolder, from, newFolder,
                                                                                            to, flags);
 }
+
+int fchmod(int file, mode_t mode) noexcept { return stumbles() ? -1 : real<int(int, mode_t)>("fchmod")(file, mode); }
 
 int chmod(const char* name, mode_t mode) noexcept {
   return stumbles() ? -1 : real<int(const char*, mode_t)>("chmod")(name, mode);

@@ -1,0 +1,22 @@
+// All analyses.
+#pragma once
+
+#include "stats/numbers/anova2.h"
+#include "stats/numbers/anova3.h"
+#include "stats/numbers/cells.h"
+#include "stats/numbers/clustering.h"
+#include "stats/numbers/contingency.h"
+#include "stats/numbers/crosstable.h"
+#include "stats/numbers/dendrogram.h"
+#include "stats/numbers/distances.h"
+#include "stats/numbers/distribution.h"
+#include "stats/numbers/exact.h"
+#include "stats/numbers/factor.h"
+#include "stats/numbers/frequencies.h"
+#include "stats/numbers/pearson.h"
+#include "stats/numbers/scores.h"
+#include "stats/numbers/shape.h"
+#include "stats/numbers/spearman.h"
+#include "stats/numbers/ttest.h"
+#include "stats/numbers/utest.h"
+#include "stats/numbers/varimax.h"
