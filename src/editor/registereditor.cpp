@@ -27,7 +27,7 @@ namespace {
 
 // What the lower floors ask of the editor.
 void registerHooks() {
-  mainFormHooks = {showTitle, showMark};
+  mainFormHooks = {showTitle, showMark, [] { reloadCur(); }};
   cellHooks = {talkCell, talkRange, showItemList};
   editorHooks.storeTyped = [](bool box) {
     if (box) commitBox();

@@ -13,20 +13,9 @@ namespace zelko {
 
 namespace {
 
-constexpr int kDataFile = 1;
-
-// The record as it stands before the user: an edit that only lives in the cache counts. While a range is being
-// chosen the cursor may have left the cache.
-CacheRow cursorRow() {
-  if (curRec >= cacheBase && curRec - cacheBase < cacheSize) return currentRow();
-  CacheRow row;
-  getRec(kDataFile, curRec, row);
-  return row;
-}
-
 // A last cell that reaches over the end of its line holds that too, which is nothing to be heard.
 Text cellOf(int item) {
-  Text cell = cellOfRow(cursorRow(), item);
+  Text cell = cellOfRow(rowOf(curRec), item);
   while (cell.ends_with(u'\r') || cell.ends_with(u'\n')) cell.pop_back();
   return trimmed(cell);
 }
@@ -79,7 +68,7 @@ void talkCell() {
 
 void talkRange() {
   if (!gateOpens()) return;
-  const CacheRow row = cursorRow();
+  const CacheRow row = rowOf(curRec);
   const Text head = markStop + u"ギョウ" + recordNumber() + u" ";
   const bool itemsHeld = rangeKind != 0 && rangeKind != 2;
   say(itemsHeld ? head + heldStretch(row) + u"ｺｳﾓｸﾊﾝｲ指定ｱﾘ" : head + trimmed(fromSjis(rowBytes(row))));

@@ -2,6 +2,7 @@
 
 #include "voice/cellhooks.h"
 #include "voice/dialogs.h"
+#include "voice/heard.h"
 #include "voice/names.h"
 #include "voice/narration.h"
 #include "voice/talk.h"
@@ -35,7 +36,7 @@ void frmCMSG::wire(Button& button, std::int16_t answer, TextView spokenName) {
 
 void frmCMSG::frmCMSG_button_GotFocus(TextView spokenName) {
   if (talkMode == 0) return;
-  waitSec(talkGap);
+  waitPastGate();
   talkS(*this, markStop + lblMSG.caption() + u"?" + Text(spokenName) + markPause + u"ｺﾏﾝﾄﾞぼたん");
 }
 
@@ -92,7 +93,7 @@ void frmTin::preset(TextView text) {
 
 void frmTin::frmTin_Text1_GotFocus() {
   if (talkMode == 0) return;
-  waitSec(talkGap);
+  waitPastGate();
   ++composedSentences;
   talkNow(Text1.content() + markStop + Label1.caption());
 }

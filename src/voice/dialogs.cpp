@@ -4,7 +4,6 @@
 #include "voice/askforms.h"
 #include "voice/okforms.h"
 #include "voice/progressform.h"
-#include "voice/talk.h"
 
 namespace zelko {
 
@@ -45,15 +44,6 @@ Text talkAsk(TextView prompt, TextView title, TextView preset) {
   dialog.preset(preset);
   dialog.showModal();
   return tinAnswer;
-}
-
-void waitBehindDialog() {
-  if (talkMode != 0) waitSec(talkGap);
-}
-
-void talkBehindDialog(TextView sentence) {
-  waitBehindDialog();
-  talkGated(sentence);
 }
 
 void showRepeat(TextView result) {

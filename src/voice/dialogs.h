@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "platform/text/text.h"
+#include "voice/heard.h"
 
 namespace zelko {
 
@@ -19,11 +20,6 @@ bool askOK(TextView text, TextView title);
 bool askYesNo(TextView text, TextView title);
 // The typed text; empty for cancel, which no caller can tell from an empty entry.
 Text talkAsk(TextView prompt, TextView title, TextView preset);
-// Says what came of a dialog: talkGap is waited first, so that it is heard behind what the control says that got the
-// focus back.
-void talkBehindDialog(TextView sentence);
-// The same wait alone, for a caller whose next step speaks by itself.
-void waitBehindDialog();
 // The closing form of a computation: says `result` when it opens and as often as it is asked to. The caller then shows
 // the result file.
 void showRepeat(TextView result);

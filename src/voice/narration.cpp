@@ -2,6 +2,7 @@
 
 #include "platform/host.h"
 #include "voice/cellhooks.h"
+#include "voice/heard.h"
 #include "voice/names.h"
 #include "voice/talk.h"
 
@@ -21,7 +22,7 @@ Sentence fixed(TextView text) {
 void speakOnFocus(Control& control, const Sentence& sentence, bool waits) {
   appendHandler(control.onGotFocus, [&control, sentence, waits] {
     if (talkMode == 0) return;
-    if (waits) waitSec(talkGap);
+    if (waits) waitPastGate();
     speak(control.form(), sentence);
   });
 }

@@ -1,6 +1,7 @@
 #include "voice/okforms.h"
 
 #include "voice/dialogs.h"
+#include "voice/heard.h"
 #include "voice/narration.h"
 #include "voice/talk.h"
 
@@ -10,8 +11,7 @@ namespace {
 
 // The wait lets the sentence through behind that of the event that opened the form.
 void sayOnOpening(const Text& message, TextView whatToDo) {
-  if (talkMode == 0) return;
-  waitSec(talkGap);
+  waitPastGate();
   if (!gateOpens()) return;
   ++composedSentences;
   talkNow(message + Text(whatToDo));

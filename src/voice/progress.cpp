@@ -1,5 +1,6 @@
 #include "voice/progress.h"
 
+#include <algorithm>
 #include <exception>
 
 #include "platform/host.h"
@@ -59,6 +60,31 @@ bool Progress::step(std::int64_t done) {
   }
   stopped_ = form_.stopAsked;
   return !stopped_;
+}
+
+LateProgress::LateProgress(TextView work, std::int64_t total) : work_(work), total_(total), begun_(host().dayTimer()) {}
+
+bool LateProgress::isLate() {
+  constexpr float kSeconds = 1;
+  const float now = host().dayTimer();
+  begun_ = std::min(begun_, now);  // midnight
+  return now - begun_ > kSeconds;
+}
+
+void LateProgress::close() {
+  const Silence silence;
+  dialog_.reset();
+}
+
+void LateProgress::restart() { begun_ = host().dayTimer(); }
+
+bool LateProgress::shows(std::int64_t done) { return dialog_ ? dialog_->shows(done) : isLate(); }
+
+bool LateProgress::step(std::int64_t done) {
+  if (!dialog_ && isLate()) dialog_.emplace(work_, total_);
+  if (dialog_) return dialog_->step(done);
+  host().letEventsThrough();
+  return true;
 }
 
 }  // namespace zelko

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include "platform/text/text.h"
 
@@ -32,6 +33,26 @@ class Progress {
   frmDOE& form_;
   std::int64_t shownTenths_ = 0;
   bool stopped_ = false;
+};
+
+// Work that is mostly short: its dialog opens once a second has passed.
+class LateProgress {
+ public:
+  explicit LateProgress(TextView work, std::int64_t total = 0);
+  // As Progress.
+  bool step(std::int64_t done);
+  bool shows(std::int64_t done);
+  // Before a question: the dialog goes, unheard; behind it, the second begins anew.
+  void close();
+  void restart();
+
+ private:
+  bool isLate();
+
+  Text work_;
+  std::int64_t total_;
+  float begun_;
+  std::optional<Progress> dialog_;
 };
 
 }  // namespace zelko

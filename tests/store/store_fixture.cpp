@@ -72,7 +72,7 @@ bool StoreFixture::open(std::string_view file) const {
 
 std::vector<Dialog> StoreFixture::dialogs() const { return takeDialogs(); }
 int StoreFixture::beeps() const { return takeBeeps(); }
-void StoreFixture::answerQuestions(bool yes) const { answerQuestionsWith(yes); }
+void StoreFixture::answerQuestions(std::int16_t answer) const { answerQuestionsWith(answer); }
 
 std::string itemFileText(const std::vector<int>& widths, const std::vector<int>& right, std::string_view lineEnd) {
   const std::string end(lineEnd);

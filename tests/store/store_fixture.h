@@ -11,6 +11,7 @@
 #include "store/records/records.h"
 #include "store/table/cursor.h"
 #include "store/table/itemfile.h"
+#include "voice/dialogs.h"
 
 namespace zelko::test {
 
@@ -40,9 +41,9 @@ class StoreFixture {
   // openTable of that name; true when it opened.
   bool open(std::string_view file) const;
 
-  std::vector<Dialog> dialogs() const;   // since the last call
-  int beeps() const;                     // since the last call
-  void answerQuestions(bool yes) const;  // yes at the start
+  std::vector<Dialog> dialogs() const;              // since the last call
+  int beeps() const;                                // since the last call
+  void answerQuestions(std::int16_t answer) const;  // kYes at the start
 
  private:
   std::filesystem::path folder_;

@@ -20,14 +20,15 @@ class StoreHost : public HeadlessHost {
 
   std::vector<Dialog> dialogs;
   int beeps = 0;
-  bool yes = true;
+  std::int16_t answer = kYes;
   std::function<void()> event;
 };
 
 void StoreHost::runModal(Form& form) {
   const bool question = form.find(u"lblMSG") != nullptr;
   dialogs.push_back({form.caption(), form.find(question ? u"lblMSG" : u"Label1")->caption()});
-  form.find(!question ? u"Command1" : yes ? u"cmdYES" : u"cmdNO")->click();
+  const bool asksNo = question && answer == kNo, asksYes = question && answer == kYes;
+  form.find(asksYes ? u"cmdYES" : asksNo ? u"cmdNO" : u"Command1")->click();
 }
 
 StoreHost& storeHost() {
@@ -41,13 +42,13 @@ void useStoreHost() {
   setHost(&storeHost());
   takeDialogs();
   takeBeeps();
-  storeHost().yes = true;
+  storeHost().answer = kYes;
   storeHost().event = {};
 }
 
 std::vector<Dialog> takeDialogs() { return std::exchange(storeHost().dialogs, {}); }
 int takeBeeps() { return std::exchange(storeHost().beeps, 0); }
 void duringEvents(std::function<void()> look) { storeHost().event = std::move(look); }
-void answerQuestionsWith(bool yes) { storeHost().yes = yes; }
+void answerQuestionsWith(std::int16_t answer) { storeHost().answer = answer; }
 
 }  // namespace zelko::test

@@ -10,7 +10,7 @@ namespace zelko::test {
 void useStoreHost();
 std::vector<Dialog> takeDialogs();
 int takeBeeps();
-void answerQuestionsWith(bool yes);
+void answerQuestionsWith(std::int16_t answer);
 // Runs whenever long work lets events through.
 void duringEvents(std::function<void()> look);
 

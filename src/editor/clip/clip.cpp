@@ -14,6 +14,7 @@
 #include "store/table/notice.h"
 #include "store/table/readonly.h"
 #include "voice/dialogs.h"
+#include "voice/heard.h"
 #include "voice/progress.h"
 #include "voice/talk.h"
 
@@ -44,11 +45,6 @@ bool openedClip(ClipReader& clip, void (*tellMissing)()) {
   clip.close();
   tellBrokenClip();
   return false;
-}
-
-// The cell in its new state is heard when the progress dialog closes: the gate is open again by then.
-void waitForGate() {
-  if (talkMode != 0) waitSec(talkGap);
 }
 
 void showAgain() {
@@ -164,7 +160,7 @@ void restoreBackup(bool changed = true) {
     Progress progress(u"張り付け撤去中", 0);
     if (changed) putBackRecords(progress);
     loadCache(curRec);
-    waitForGate();
+    waitPastGate();  // the cell in its new state is heard when the progress dialog closes
   }
   showAgain();
 }
@@ -179,7 +175,7 @@ void paste(ClipReader& clip, TextView work) {
     if (changed) ending = pasteRecords(clip, progress);
     clip.close();
     loadCache(curRec);
-    waitForGate();
+    waitPastGate();  // the cell in its new state is heard when the progress dialog closes
   }
   if (ending == Ending::stopped) return restoreBackup(changed);
   showAgain();
@@ -217,7 +213,7 @@ void pasteOver() {
   if (refusedAsReadOnly()) return;
   ClipReader clip;
   if (!openedClip(clip, tellNoClip)) return;
-  commitBox();
+  if (!commitBox()) return;
   paste(clip, u"上書き張り付け作業中");
 }
 
@@ -225,7 +221,7 @@ void pasteInsert() {
   if (refusedAsReadOnly()) return;
   const std::int32_t count = recordsToInsert();
   if (count == 0) return;
-  commitBox();
+  if (!commitBox()) return;
   ClipReader clip;
   if (insertRecords(count, docPath, docDrive) && openedClip(clip, tellNoClip)) paste(clip, u"挿入張り付け作業中");
 }
@@ -233,7 +229,7 @@ void pasteInsert() {
 void pasteUndo() {
   if (refusedAsReadOnly()) return;
   if (!askYesNo(u"いちばん最近の貼り付け操作を取り消し,以前の状態に戻します", u".張り付けの取り消し")) return;
-  commitBox();
+  if (!commitBox()) return;
   restoreBackup();
 }
 

@@ -16,6 +16,7 @@
 #include "store/table/cursor.h"
 #include "store/table/table.h"
 #include "voice/dialogs.h"
+#include "voice/heard.h"
 #include "voice/names.h"
 #include "voice/narration.h"
 #include "voice/talk.h"
@@ -56,7 +57,7 @@ int firstRowWithoutFormula() {
 
 // The value is heard behind the sentence of a dialog that has just closed.
 void fillHeard(TextView text) {
-  if (talkMode != 0) waitSec(talkGap);
+  waitPastGate();
   fillInputBox(text);
 }
 

@@ -30,8 +30,9 @@ std::size_t digitsAt(TextView text, std::size_t from) {
 
 // Read from disk: what waits in the current row is not seen.
 Text numberOfItem(int item) {
-  getRec(kDataFile, curRec, recCache[1]);
-  return trimmed(str(val(cellOfCur(item))));
+  CacheRow row;
+  getRec(kDataFile, curRec, row);
+  return trimmed(str(val(cellOfRow(row, item))));
 }
 
 int itemNumber(TextView digits) { return digits.empty() ? curItem : toInt16(val(digits)); }

@@ -10,7 +10,9 @@
 #include "platform/text/number.h"
 #include "platform/text/sjis.h"
 #include "store/records/records.h"
+#include "store/records/walk.h"
 #include "store/table/cursor.h"
+#include "store/table/notice.h"
 #include "voice/dialogs.h"
 #include "voice/talk.h"
 
@@ -91,12 +93,15 @@ bool columnSum() {
     host().beep();
     return false;
   }
-  for (std::int32_t record = sum.first; record <= sum.last; ++record) {
-    getRec(1, record, recCache[1]);
-    sum.value += val(cellOfCur(curItem));
-    host().letEventsThrough();
-  }
-  return offer(sum);
+  const Walk walk{.first = sum.first, .last = sum.last, .work = u"縦合計計算中"};
+  const WalkEnd end = walkRecords(walk, [&sum](const WalkedRecord& record) {
+    sum.value += val(record.cell(curItem));
+    return true;
+  });
+  if (end == WalkEnd::done) return offer(sum);
+  if (end == WalkEnd::stopped) talkBehindDialog(u"縦合計を中止しました");
+  if (end == WalkEnd::failed) tellFailure(u"記録が読めません。", u"ファイル読み込みエラー");
+  return false;
 }
 
 }  // namespace

@@ -53,7 +53,7 @@ constexpr const char16_t* kHowToMove =
 }  // namespace
 
 void copyCellToBox() {
-  fillInputBox(currentCell());
+  fillBoxWithCell();
   focusInputBox();
 }
 
@@ -81,7 +81,7 @@ void registerCellCommands() {
   registerCommand(u"mnuITEMMOVE", [] { showOK(kHowToMove, u"項目の移動の仕方"); });
   registerListCaller(84, [](int item) {
     MoveScope moving;
-    commitBox();
+    if (!commitBox()) return;
     curItem = static_cast<std::int16_t>(item);
     showCell(static_cast<float>(curRec), curItem, {}, {});
     dispAll(curItem);

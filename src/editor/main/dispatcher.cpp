@@ -34,13 +34,13 @@ bool boxIsBlank() { return trimmed(box().content()).empty(); }
 // --- The rows of the table of keys; each says whether it used the key. -------------------------------------
 
 bool keyDown(int) {
-  commitBox();
+  if (!commitBox()) return true;
   nextRec(curItem);
   return true;
 }
 
 bool keyUp(int) {
-  commitBox();
+  if (!commitBox()) return true;
   prevRec(curItem);
   return true;
 }
@@ -114,6 +114,7 @@ bool fiveItems(int direction) {
   const int kept = std::clamp<int>(wanted, 0, itemCount);
   if (kept != wanted) host().beep();
   flushRec();
+  if (storeWasHeldBack()) return true;
   curItem = static_cast<std::int16_t>(kept);
   loadCache(curRec);
   dispAll(curItem);
@@ -122,7 +123,7 @@ bool fiveItems(int direction) {
 }
 
 bool page(int direction) {
-  commitBox();
+  if (!commitBox()) return true;
   const std::int32_t last = std::max(recCount(), 1);
   const std::int64_t wanted = std::int64_t{curRec} + direction * cacheSize;
   const auto kept = static_cast<std::int32_t>(std::clamp<std::int64_t>(wanted, 1, last));
@@ -235,7 +236,6 @@ bool actOn(const KeyEvent& key) {
     return true;
   }
   if (rangeKind != 0 && finishedRangeKey(key)) return true;
-  if (mode == u"moveitem" || mode == u"moverecord") return false;
   if (key.is('F', shift::Ctrl)) {
     if (rangeKind != 0) flushRec();
     runCommand(u"mnuF");
@@ -260,7 +260,7 @@ bool actOn(const KeyEvent& key) {
 }  // namespace
 
 void inputKeyDown(KeyEvent& key) {
-  if (caretGuard || mode == u"HTYU") return;
+  if (caretGuard) return;
   if (actOn(key)) key.swallow();
 }
 

@@ -14,6 +14,7 @@
 #include "platform/files/files.h"
 #include "platform/host.h"
 #include "store/table/mainform.h"
+#include "voice/heard.h"
 #include "voice/narration.h"
 #include "voice/talk.h"
 
@@ -29,7 +30,7 @@ void runOnCell(TextView command) {
     const Silence silence;
     focusInputBox();
   }
-  if (talkMode != 0) waitSec(talkGap);
+  waitPastGate();
   runCommand(command);
 }
 }  // namespace

@@ -74,7 +74,7 @@ void Form1::txtREC_KeyPress(CharEvent& event) {
   event.ch = 0;
   auto record = numberIn(txtREC.content());
   if (!record || *record < 1) return refuse(txtREC, curRec);
-  commitBox();
+  if (!commitBox()) return;
   if (*record > recCount()) return refuse(txtREC, curRec);
   goTo(*record, curItem);
   focusInputBox();
@@ -94,7 +94,7 @@ void Form1::txtItemnum_KeyPress(CharEvent& event) {
   event.ch = 0;
   auto item = numberIn(txtItemnum.content());
   if (!item || *item > itemCount) return refuse(txtItemnum, curItem);
-  commitBox();
+  if (!commitBox()) return;
   curItem = static_cast<std::int16_t>(*item);
   dispAll(curItem);
   showCell(static_cast<float>(curRec), curItem, u"", u"");

@@ -10,6 +10,7 @@
 #include "platform/host.h"
 #include "platform/text/sjis.h"
 #include "store/table/cursor.h"
+#include "voice/heard.h"
 #include "voice/names.h"
 #include "voice/talk.h"
 
@@ -84,7 +85,7 @@ void Form1::txtinputbox_KeyPress(CharEvent& event) {
 void Form1::txtinputbox_GotFocus() {
   if (itemOnlyReturn != 1) return talkReturn(u"", txtREC.content(), txtItemnum.content());
   itemOnlyReturn = 0;
-  talkLast = 0;
+  nextIsHeard();
   talkCtl(txtItemnum.content());
 }
 

@@ -5,10 +5,14 @@
 
 namespace zelko {
 
-// Writes the input box into the current row; only flushRec reaches the disk.
+// Writes the input box into the current row; only flushRec reaches the disk. A cell that was copied to the box and not
+// edited keeps its bytes: not every code comes back from its text as it was.
 void commitCell();
-// If the box holds text (trimmed): commitCell, flushRec, box emptied. Else flushRec.
-void commitBox();
+// The cell of the cursor into the box.
+void fillBoxWithCell();
+// If the box holds text (trimmed): commitCell, flushRec, box emptied. Else flushRec. False where the user held the
+// store back: the cursor stays.
+bool commitBox();
 
 // A move from the input box runs: the box that is being cleared is not echoed.
 class MoveScope {

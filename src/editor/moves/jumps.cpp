@@ -31,45 +31,45 @@ void goToItem(std::int16_t item) {
 
 void goToFirstRecord() {
   MoveScope moving;
-  commitBox();
+  if (!commitBox()) return;
   cacheBase = 1;
   goTo(1, curItem);
 }
 
 void goToLastRecord() {
   MoveScope moving;
-  commitBox();
+  if (!commitBox()) return;
   goTo(std::max(recCount(), 1), curItem);
 }
 
 void goToNewLine() {
   MoveScope moving;
-  commitBox();
+  if (!commitBox()) return;
   goTo(recCount() + 1, curItem);
 }
 
 void goToLastItem() {
   MoveScope moving;
-  commitBox();
+  if (!commitBox()) return;
   goToItem(itemCount);
 }
 
 void goToFirstItem() {
   MoveScope moving;
-  commitBox();
+  if (!commitBox()) return;
   goToItem(firstDataItem());
 }
 
 void goHome() {
   MoveScope moving;
-  commitBox();
+  if (!commitBox()) return;
   cacheBase = 1;
   goTo(1, firstDataItem());
 }
 
 void goToNextRecordStart() {
   MoveScope moving;
-  commitBox();
+  if (!commitBox()) return;
   if (curRec <= recCount()) curItem = firstDataItem();
   nextRec(curItem);
 }
@@ -86,9 +86,9 @@ void askRecord() {
       talkAsk(u"第何記録に飛びますか？（なお、＋－付きで数値を指定すると、今の記録からの相対指定になります",
               u"指定記録へ移動", {});
   if (trimmed(answer).empty()) return;
-  waitBehindDialog();
+  waitPastGate();
   MoveScope moving;
-  commitBox();
+  if (!commitBox()) return;
   goTo(targetOf(answer, curRec, 1, recCount()), curItem);
 }
 
@@ -97,9 +97,9 @@ void askItem() {
       talkAsk(u"第何項目に飛びますか？（なお、＋－付きで数値を指定すると、今の項目からの相対指定になります",
               u"指定項目へ移動", {});
   if (trimmed(answer).empty()) return;
-  waitBehindDialog();
+  waitPastGate();
   MoveScope moving;
-  commitBox();
+  if (!commitBox()) return;
   goToItem(static_cast<std::int16_t>(targetOf(answer, curItem, 0, itemCount)));
 }
 

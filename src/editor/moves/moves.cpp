@@ -13,18 +13,15 @@
 namespace zelko {
 namespace {
 
-constexpr TextView kChoosingRange = u"HTYU";
-
 void show() { showCell(static_cast<float>(curRec), curItem, u"", u""); }
 
-void clearInputUnless(TextView busy) {
-  if (mode == busy) return;
+void clearInput() {
   emptyInputBox();
   focusInputBox();
 }
 
 // The row of a record, where the cache holds it.
-CacheRow* rowOf(std::int32_t record) {
+CacheRow* rowInCache(std::int32_t record) {
   std::int64_t index = std::int64_t{record} - cacheBase + 2;
   if (index < 2 || index >= kCacheRows) return nullptr;
   return &recCache[static_cast<std::size_t>(index)];
@@ -44,12 +41,12 @@ bool advanceToEntryItem() {
 }
 
 // One item on; true where the next record has shown the cell already.
-bool stepItem() {
+bool stepItem(MoveFor what) {
   bool wrapped = allItemsOn == 1 ? ++curItem > itemCount : advanceToEntryItem();
   if (!wrapped) return false;
   if (allItemsOn == 1) curItem = 0;
   std::int32_t before = curRec;
-  nextRec(curItem);
+  nextRec(curItem, what);
   // A refused step has shown nothing, and the item has changed all the same.
   return allItemsOn != 1 && curRec != before;
 }
@@ -63,14 +60,14 @@ void stepBack() {
 
 }  // namespace
 
-void nextItem() {
-  if (stepItem() || mode == kChoosingRange) return;
+void nextItem(MoveFor what) {
+  if (stepItem(what) || what == MoveFor::range) return;
   show();
   dispAll(curItem);
-  clearInputUnless(u"moveitem");
+  clearInput();
 }
 
-void prevItem() {
+void prevItem(MoveFor what) {
   if (--curItem < 0) {
     if (curRec == 1) {
       host().beep();
@@ -78,23 +75,22 @@ void prevItem() {
       return;
     }
     curItem = itemCount;
-    prevRec(curItem);
+    prevRec(curItem, what);
   }
-  if (mode == kChoosingRange) return;
+  if (what == MoveFor::range) return;
   emptyInputBox();
   dispAll(curItem);
-  takeRow(curRec);
   show();
-  if (mode != u"moveitem") focusInputBox();
+  focusInputBox();
 }
 
-void nextRec(std::int16_t& item) {
-  bool choosing = mode == kChoosingRange;
-  if (!choosing) flushRec();
+void nextRec(std::int16_t& item, MoveFor what) {
+  const bool choosing = what == MoveFor::range;
+  if (!choosing && !flushRec() && storeWasHeldBack()) return;
   std::int32_t count = recCount();
   if (curRec > count) return host().beep();
   if (curRec == count) {
-    if (CacheRow* row = rowOf(curRec + 1)) setRow(*row, blankRec);
+    if (CacheRow* row = rowInCache(curRec + 1)) setRow(*row, blankRec);
   }
   ++curRec;
   if (choosing) return;
@@ -105,14 +101,14 @@ void nextRec(std::int16_t& item) {
   }
   dispAll(item);
   show();
-  clearInputUnless(u"moverecord");
+  clearInput();
 }
 
-void prevRec(std::int16_t& item) {
-  bool choosing = mode == kChoosingRange;
-  if (!choosing) flushRec();
+void prevRec(std::int16_t& item, MoveFor what) {
+  const bool choosing = what == MoveFor::range;
+  if (!choosing && !flushRec() && storeWasHeldBack()) return;
   if (curRec == 1) return host().beep();
-  CacheRow* left = rowOf(curRec);
+  CacheRow* left = rowInCache(curRec);
   if (curRec > recCount() && left && rowBytes(*left) == blankRec) setRow(*left, slashRec);
   // Off the cache there is no row to stamp or to show: the cursor stays.
   if (curRec - 1 < cacheBase) {
@@ -124,7 +120,7 @@ void prevRec(std::int16_t& item) {
   }
   dispAll(item);
   show();
-  if (!choosing) clearInputUnless(u"moverecord");
+  if (!choosing) clearInput();
 }
 
 void reloadCur(int keepRange) {
@@ -149,7 +145,7 @@ void goTo(std::int32_t record, std::int16_t item) {
 }
 
 void jumpTo(std::int32_t record, std::int16_t item) {
-  commitBox();
+  if (!commitBox()) return;
   goTo(record, item);
 }
 

@@ -1,11 +1,11 @@
 #include "editor/ranges/datamove.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
-#include "platform/host.h"
 #include "store/records/records.h"
-#include "store/table/cursor.h"
+#include "store/records/walk.h"
 
 namespace zelko {
 
@@ -13,70 +13,64 @@ namespace {
 
 constexpr int kDataFile = 1;
 
-bool store(std::int32_t record, CacheRow& row) {
-  row[kDataBytes] = '\r';
-  row[kDataBytes + 1] = '\n';
-  return putRec(kDataFile, record, {row.data(), row.size()});
+// The file grows before anything is put: a full disk is met while nothing is lost.
+bool growTo(std::int32_t last) {
+  const Walk walk{.first = recCount() + 1, .last = last, .lengthens = true};
+  return changeRecords(walk, [](ChangedRecord&) { return true; }) == WalkEnd::done;
 }
 
-// The file grows before anything is put, record by record: a full disk is met while nothing is lost.
-bool growTo(std::int32_t last) {
-  CacheRow blank;
-  setRow(blank, blankRec);
-  for (std::int32_t record = recCount() + 1; record <= last; ++record) {
-    if (!store(record, blank)) return false;
-    host().letEventsThrough();
-  }
+struct Copying {
+  const RangeBlock& block;
+  std::int32_t toRec;
+  std::int16_t toItem;
+  bool moves;
+
+  bool isSource(std::int32_t record) const { return record >= block.rec1 && record <= block.rec2; }
+  std::int32_t sourceOf(std::int32_t record) const { return record - toRec + block.rec1; }
+};
+
+// Cells as they are to be put; none where the record is not read.
+bool readCells(const Copying& copying, const ChangedRecord& target, std::vector<Text>& cells) {
+  const std::int32_t source = copying.sourceOf(target.number());
+  CacheRow row;
+  if (source == target.number())
+    std::copy_n(target.bytes().begin(), row.size(), row.begin());
+  else if (!getRec(kDataFile, source, row))
+    return false;
+  for (int item = copying.block.item1; item <= copying.block.item2; ++item)
+    cells.push_back(trimmed(cellOfRow(row, item)));
   return true;
 }
 
-std::vector<Text> cellsOf(const CacheRow& row, const RangeBlock& block) {
+bool copyInto(const Copying& copying, ChangedRecord& record) {
   std::vector<Text> cells;
-  for (int item = block.item1; item <= block.item2; ++item) cells.push_back(trimmed(cellOfRow(row, item)));
-  return cells;
+  const bool isTarget = copying.isSource(copying.sourceOf(record.number()));
+  if (isTarget && !readCells(copying, record, cells)) return false;
+  if (copying.moves && copying.isSource(record.number()))
+    for (int item = copying.block.item1; item <= copying.block.item2; ++item) record.setCell(item, {});
+  int item = copying.toItem;
+  for (const Text& cell : cells)
+    if (item <= record.shape().lastItem()) record.setCell(item++, cell);
+  return true;
 }
 
-void blankCells(CacheRow& row, const RangeBlock& block) {
-  for (int item = block.item1; item <= block.item2; ++item) setCell(row, item, u"");
-}
-
-void putCells(CacheRow& row, int toItem, const std::vector<Text>& cells) {
-  for (const Text& cell : cells) {
-    if (toItem > itemCount) return;
-    setCell(row, toItem++, cell);
-  }
-}
-
-bool copyRecord(const RangeBlock& block, std::int32_t from, std::int32_t to, std::int16_t toItem, bool moves) {
-  CacheRow source, target;
-  if (!getRec(kDataFile, from, source)) return false;
-  const std::vector<Text> cells = cellsOf(source, block);
-  if (from == to) {
-    if (moves) blankCells(source, block);
-    putCells(source, toItem, cells);
-    return store(from, source);
-  }
-  if (!getRec(kDataFile, to, target)) return false;
-  putCells(target, toItem, cells);
-  if (!store(to, target)) return false;
-  if (!moves) return true;
-  blankCells(source, block);
-  return store(from, source);
+// Each record is read before it is changed, and no source is blanked before its copy stands: towards the end from the
+// last record on, towards the head from the first.
+bool copyRecords(const Copying& copying, std::int32_t first, std::int32_t last) {
+  const Walk walk{.first = first, .last = last, .towardsHead = copying.toRec > copying.block.rec1};
+  const auto change = [&](ChangedRecord& record) { return copyInto(copying, record); };
+  return changeRecords(walk, change) == WalkEnd::done;
 }
 
 }  // namespace
 
 bool copyBlock(const RangeBlock& block, std::int32_t toRec, std::int16_t toItem, bool moves) {
-  const std::int32_t count = block.rec2 - block.rec1 + 1;
-  if (!growTo(toRec + count - 1)) return false;
-  // Towards the end from the last record on, as a record that is still to be read must not be written.
-  const bool backwards = toRec > block.rec1;
-  for (std::int32_t step = 0; step < count; ++step) {
-    const std::int32_t at = backwards ? count - 1 - step : step;
-    if (!copyRecord(block, block.rec1 + at, toRec + at, toItem, moves)) return false;
-    host().letEventsThrough();
-  }
-  return true;
+  const std::int32_t lastTo = toRec + block.rec2 - block.rec1;
+  const Copying copying{block, toRec, toItem, moves};
+  if (!growTo(lastTo)) return false;
+  const bool apart = toRec > block.rec2 || lastTo < block.rec1;
+  if (!apart) return copyRecords(copying, std::min(toRec, block.rec1), std::max(lastTo, block.rec2));
+  return copyRecords(copying, toRec, lastTo) && (!moves || copyRecords(copying, block.rec1, block.rec2));
 }
 
 }  // namespace zelko

@@ -14,6 +14,7 @@
 #include "store/table/cursor.h"
 #include "store/table/readonly.h"
 #include "voice/dialogs.h"
+#include "voice/heard.h"
 #include "voice/talk.h"
 
 namespace zelko {
@@ -31,7 +32,7 @@ void rangeUsed() {
 void rangeUsedAndTold() {
   rangeUsed();
   const Form1& main = mainForm();
-  talkLast = 0;
+  nextIsHeard();
   talkReturn(u"", main.txtREC.content(), main.txtItemnum.content());
 }
 
@@ -41,7 +42,7 @@ void deleteRecordRange(const RangeBlock& block) {
                         u"なお記録数の多い場合は時間がかかります。";
   if (!askYesNo(question, u"指定範囲の記録の排除")) return;
   mode = u"killrecord";
-  commitBox();
+  if (!commitBox()) return;
   autoIdOn = 0;
   deleteRecords(block.rec1, block.rec2);
   rangeUsedAndTold();
@@ -50,14 +51,14 @@ void deleteRecordRange(const RangeBlock& block) {
 void deleteItemRange(const RangeBlock& block) {
   if (itemCount == 0 || block.item1 == 0) return host().beep();
   if (!askYesNo(itemsWords(block) + u"　を　削除します。復活はできません。", u"項目の削除")) return;
-  commitBox();
+  if (!commitBox()) return;
   deleteItems(block.item1, block.item2);
   rangeUsedAndTold();
 }
 
 void insertAtRecords(const RangeBlock& block) {
   mode = u"insertrecord";
-  commitBox();
+  if (!commitBox()) return;
   autoIdOn = 0;
   curRec = block.rec1;
   loadCache(curRec);
@@ -70,7 +71,7 @@ void insertAtItems(const RangeBlock& block) {
                         u" 項目、挿入します。挿入項目の項目幅は１、左詰め、項目名は適当な名前が付けられます。"
                         u"操作終了後ﾒﾆｭｰのﾋｮｳﾃﾞｻﾞｲﾝ項目幅の変更等の機能で必要に応じて変更して下さい。";
   if (!askYesNo(question, u"項目の挿入")) return;
-  commitBox();
+  if (!commitBox()) return;
   insertItems(block.item1, block.item2);
   rangeUsedAndTold();
 }
@@ -79,7 +80,7 @@ void clearBlock(const RangeBlock& block) {
   const Text question =
       rectangleWords(block) + u" のデータを消去し、ブランクに置き換えます。消去部はクリップファイルになります";
   if (!askYesNo(question, u"指定範囲データ消去")) return;
-  commitBox();
+  if (!commitBox()) return;
   rangeClear(block.rec1, block.rec2, block.item1, block.item2);
   rangeUsedAndTold();
 }

@@ -15,13 +15,13 @@ namespace zelko {
 namespace {
 
 void down() {
-  nextRec(curItem);
+  nextRec(curItem, MoveFor::range);
   curRec = std::min(curRec, recCount());
 }
 
 void toLastRecord() { curRec = recCount(); }
 
-void up() { prevRec(curItem); }
+void up() { prevRec(curItem, MoveFor::range); }
 
 void toFirstRecord() {
   autoIdOn = 0;
@@ -32,7 +32,7 @@ void toFirstRecord() {
 // The last cell of the table has no next one: there the far corner stays.
 void right() {
   const std::int16_t item = curItem;
-  nextItem();
+  nextItem(MoveFor::range);
   if (curRec <= recCount()) return;
   curRec = recCount();
   curItem = item;
@@ -41,7 +41,7 @@ void right() {
 
 void toLastItem() { curItem = itemCount; }
 
-void left() { prevItem(); }
+void left() { prevItem(MoveFor::range); }
 
 void toFirstItem() { curItem = std::min<std::int16_t>(1, itemCount); }
 

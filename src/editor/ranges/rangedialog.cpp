@@ -21,6 +21,7 @@
 #include "store/records/records.h"
 #include "store/table/cursor.h"
 #include "voice/dialogs.h"
+#include "voice/heard.h"
 #include "voice/narration.h"
 #include "voice/talk.h"
 
@@ -60,12 +61,6 @@ bool readCorner(const TextBox& box, std::int32_t lowest, std::int32_t highest, s
   if (typed < lowest || typed > highest) return false;
   corner = static_cast<std::int32_t>(typed);
   return true;
-}
-
-void showSilently() {
-  const Silence silence;
-  showCell(static_cast<float>(curRec), curItem, {}, {});
-  dispAll(curItem);
 }
 
 // A corner that was typed takes the cursor with it: what reads the range starts from there.
@@ -116,6 +111,19 @@ void frmHANI::narrate() {
   };
 }
 
+void frmHANI::choose() {
+  setCaption(kTitles[kindIndex()]);
+  Text3.setEnabled(rangeKind != 2);
+  Text4.setEnabled(rangeKind != 2);
+  Text1.setEnabled(rangeKind != 3);
+  Text2.setEnabled(rangeKind != 3);
+  fillBoxes();
+  choosing_ = true;
+  mode = u"HTYU";
+  passRelease(*this);  // the release of the key that opened it says the range
+  showModal();
+}
+
 void frmHANI::fillBoxes() {
   Text1.setText(decimal(rangeRec1));
   Text2.setText(decimal(rangeRec2));
@@ -126,7 +134,7 @@ void frmHANI::fillBoxes() {
 // --- Keys ----------------------------------------------------------------------------------------------------
 
 void frmHANI::frmHANI_Text5_KeyDown(KeyEvent& key) {
-  if (mode != u"HTYU") return;
+  if (!choosing_) return;
   if (jumpKey(key)) {
     answerKey(0);
     key.swallow();
@@ -162,7 +170,7 @@ bool frmHANI::jumpKey(const KeyEvent& key) {
 }
 
 void frmHANI::frmHANI_Text5_KeyUp(KeyEvent& key) {
-  if (mode == u"HTYU") answerKey(questionOf(key, 0));
+  if (choosing_) answerKey(questionOf(key, 0));
 }
 
 void frmHANI::frmHANI_KeyUp(KeyEvent& key) {
@@ -176,10 +184,10 @@ void frmHANI::frmHANI_KeyUp(KeyEvent& key) {
 // The view follows the cursor, and the mask lies below the view: hence shown twice.
 void frmHANI::catchUp() {
   loadCache(curRec);
-  showSilently();
+  showUnheard();
   followCursor();
   rangeMask(rangeRec1, rangeRec2, rangeItem1, rangeItem2, rangeColour());
-  showSilently();
+  showUnheard();
   fillBoxes();
 }
 
@@ -206,7 +214,7 @@ void frmHANI::sum(int code) {
     const Silence silence;  // a sentence would take the place of the sum on the clipboard
     return frmHANI_Command1_Click();
   }
-  talkLast = 0;
+  nextIsHeard();
   frmHANI_Command1_Click();
   if (!isPlainSum(code)) sumKey(code);  // a formula works in the input box
 }
@@ -251,25 +259,17 @@ void frmHANI::frmHANI_Command1_Click() {
 }
 
 void frmHANI::close() {
-  showSilently();
+  showUnheard();
   mode.clear();
+  choosing_ = false;
   unload<frmHANI>();
   focusInputBox();
 }
 
 void beginRange(std::int32_t rec1, std::int32_t rec2, std::int16_t item1, std::int16_t item2) {
-  frmHANI& dialog = form<frmHANI>();
-  dialog.setCaption(kTitles[kindIndex()]);
-  dialog.Text3.setEnabled(rangeKind != 2);
-  dialog.Text4.setEnabled(rangeKind != 2);
-  dialog.Text1.setEnabled(rangeKind != 3);
-  dialog.Text2.setEnabled(rangeKind != 3);
   rangeMask(rec1, rec2, item1, item2, rangeColour());
   dispAll(curItem);
-  dialog.fillBoxes();
-  mode = u"HTYU";
-  passRelease(dialog);  // the release of the key that opened it says the range
-  dialog.showModal();
+  form<frmHANI>().choose();
 }
 
 }  // namespace zelko

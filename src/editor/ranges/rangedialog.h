@@ -24,7 +24,8 @@ class frmHANI : public Form {
   Button Command2{*this, u"Command2", u"終(CR)"};
   Button Command1{*this, u"Command1", u"取消(esc)"};
 
-  void fillBoxes();
+  // Shows the dialog for the range variables of rangeKind; returns when the range is finished, dropped or used.
+  void choose();
 
  private:
   void narrate();
@@ -38,11 +39,13 @@ class frmHANI : public Form {
   void answerKey(int number);
   void clip();
   void sum(int code);
+  void fillBoxes();
   bool takeBoxes();
   void catchUp();
   void close();
 
-  bool leaving_ = false;  // a command uses the range up: the dialog asks for nothing any more
+  bool choosing_ = false;  // opened for a range
+  bool leaving_ = false;   // a command uses the range up: the dialog asks for nothing any more
 };
 
 // Opens the dialog on the range variables of rangeKind, with these corners; returns when the range is finished, dropped

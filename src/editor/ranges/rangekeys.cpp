@@ -28,7 +28,7 @@ int directionOf(int code) { return code == key::Right || code == key::Down ? 1 :
 bool arrowKey(const KeyEvent& key) {
   if (!isUpDown(key.code) && !isLeftRight(key.code)) return false;
   if (rangeKind == 1 && (key.mask == shift::None || key.mask == shift::Ctrl)) {
-    startDataMove(key.mask == shift::Ctrl ? u"move" : u"copy");
+    startDataMove(key.mask == shift::Ctrl);
     return true;
   }
   if (key.mask != shift::None) return false;
@@ -49,7 +49,7 @@ void startRange(int kind) {
   const std::int32_t count = recCount();
   if (curRec > count) return host().beep();
   if (viewKind == 1) return showOK(u"個別記録表示中は範囲の指定は出来ません", u"注意");
-  commitBox();  // the box will be emptied on the way: what was typed belongs to this cell
+  if (!commitBox()) return;  // the box will be emptied on the way: what was typed belongs to this cell
   rangeKind = static_cast<std::int16_t>(kind);
   rangeRec1 = kind == 3 ? 1 : curRec;
   rangeRec2 = kind == 3 ? count : curRec;

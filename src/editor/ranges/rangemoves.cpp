@@ -2,6 +2,7 @@
 
 #include "editor/main/commands.h"
 #include "editor/main/state.h"
+#include "editor/moves/commit.h"
 #include "editor/ranges/range.h"
 #include "editor/ranges/rangekeys.h"
 #include "editor/ranges/targetdialog.h"
@@ -50,7 +51,7 @@ std::int32_t firstRecordTarget(const RangeBlock& block, std::int32_t count, int 
 
 void startCopyByMenu() {
   if (refusedAsReadOnly()) return;
-  if (rangeKind == 1) return startDataMove(u"copy");
+  if (rangeKind == 1) return startDataMove(false);
   showOK(
       u"shift+矢印ｷｰでｺﾋﾟｰ元の範囲を指定した上で本メニューを選択するか、矢印ｷｰを叩いて下さい。"
       u"ｺﾋﾟｰ先指定画面が表示されます。",
@@ -59,7 +60,7 @@ void startCopyByMenu() {
 
 void startMoveByMenu() {
   if (refusedAsReadOnly()) return;
-  if (rangeKind == 1) return startDataMove(u"move");
+  if (rangeKind == 1) return startDataMove(true);
   showOK(
       u"shift+矢印ｷｰで移動部分の範囲を指定した上で本メニューを選択するか、ctrl+矢印ｷｰを叩いて下さい。"
       u"移動先指定画面が表示されます。",
@@ -93,10 +94,10 @@ void startItemMove(int direction) {
   if (block.item2 >= itemCount - 2 && block.item1 == 0) return refuseAndDrop();
   const int target = firstItemTarget(block, direction);
   if (target < 0) return host().beep();
-  mode = u"moveitem";
+  if (!commitBox()) return;
   moveTo = target;
   curItem = static_cast<std::int16_t>(target);
-  pointAtTarget({u"項目の移動", u"項目移動実行(CR)", kMoveItems});
+  pointAtTarget(Pointing::items, {u"moveitem", u"項目の移動", u"項目移動実行(CR)", kMoveItems});
 }
 
 void startRecordMove(int direction) {
@@ -106,19 +107,19 @@ void startRecordMove(int direction) {
   if (block.rec2 >= count - 2 && block.rec1 == 1) return refuseAndDrop();
   const std::int32_t target = firstRecordTarget(block, count, direction);
   if (target < 0) return host().beep();
-  mode = u"moverecord";
+  if (!commitBox()) return;
   moveTo = curRec = target;
-  pointAtTarget({u"記録の移動", u"記録移動実行(CR)", kMoveRecords});
+  pointAtTarget(Pointing::records, {u"moverecord", u"記録の移動", u"記録移動実行(CR)", kMoveRecords});
 }
 
-void startDataMove(TextView what) {
+void startDataMove(bool moves) {
   if (refusedAsReadOnly()) return;
   const RangeBlock block = heldBlock();
-  mode = what;
+  if (!commitBox()) return;
   moveTo = curRec = block.rec1;
   curItem = block.item1;
-  if (mode == u"copy") return pointAtTarget({u"ﾃﾞｰﾀｺﾋﾟ-", u"ﾃﾞｰﾀｺﾋﾟ-(CR)", kCopyData});
-  pointAtTarget({u"ﾃﾞｰﾀ移動", u"ﾃﾞｰﾀ移動(CR)", kMoveData});
+  if (!moves) return pointAtTarget(Pointing::cellsToCopy, {u"copy", u"ﾃﾞｰﾀｺﾋﾟ-", u"ﾃﾞｰﾀｺﾋﾟ-(CR)", kCopyData});
+  pointAtTarget(Pointing::cellsToMove, {u"move", u"ﾃﾞｰﾀ移動", u"ﾃﾞｰﾀ移動(CR)", kMoveData});
 }
 
 void registerRangeMoves() {

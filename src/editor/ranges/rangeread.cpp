@@ -8,7 +8,7 @@
 #include "platform/forms/form.h"
 #include "platform/text/number.h"
 #include "platform/text/sjis.h"
-#include "store/records/records.h"
+#include "store/records/walk.h"
 #include "store/table/cursor.h"
 #include "voice/talk.h"
 
@@ -17,7 +17,6 @@ namespace zelko {
 namespace {
 
 constexpr std::size_t kReadBuffer = 51000;  // bytes
-constexpr int kDataFile = 1;
 
 // Collects the words of one record after the other until the buffer is full.
 class Reading {
@@ -38,28 +37,25 @@ class Reading {
 
 std::size_t at(int item) { return static_cast<std::size_t>(item); }
 
-// The record as it stands on disk, in the scratch row.
-const CacheRow& readRecord(std::int32_t record) {
-  getRec(kDataFile, record, recCache[0]);
-  return recCache[0];
+// What was read up to a stop is said.
+Walk walkOf(const RangeBlock& block) {
+  return {.first = block.rec1, .last = block.rec2, .work = u"範囲読み上げ準備中"};
 }
 
-Text stretch(const CacheRow& row, const RangeBlock& block) {
+Text stretch(std::string_view bytes, const RangeBlock& block) {
   const int start = std::clamp(itemStart[at(block.item1)] - 1, 0, kDataBytes);
   const int end = std::clamp(itemStart[at(block.item2)] - 1 + itemWidth[at(block.item2)], start, kDataBytes);
-  const std::string_view bytes(row.data(), row.size());
   return trimmed(fromSjis(bytes.substr(static_cast<std::size_t>(start), static_cast<std::size_t>(end - start))));
 }
 
 Text dataOfRange() {
   const RangeBlock block = heldBlock();
   Reading reading;
-  for (std::int32_t record = block.rec1; record <= block.rec2; ++record) {
-    const CacheRow& row = readRecord(record);
-    Text words = u" ｷﾞｮｳ" + decimal(record) + u" ";
-    for (int item = block.item1; item <= block.item2; ++item) words += trimmed(cellOfRow(row, item)) + u" ";
-    if (!reading.add(words)) break;
-  }
+  walkRecords(walkOf(block), [&](const WalkedRecord& record) {
+    Text words = u" ｷﾞｮｳ" + decimal(record.number()) + u" ";
+    for (int item = block.item1; item <= block.item2; ++item) words += record.trimmedCell(item) + u" ";
+    return reading.add(words);
+  });
   return reading.text();
 }
 
@@ -101,10 +97,10 @@ void rangeReadAloud() {
   if (talkMode == 0) return;
   const RangeBlock block = heldBlock();
   Reading reading;
-  for (std::int32_t record = block.rec1; record <= block.rec2; ++record) {
-    const Text words = stretch(readRecord(record), block);
-    if (!reading.add(record == block.rec1 ? words : u"次記録" + words)) break;
-  }
+  walkRecords(walkOf(block), [&](const WalkedRecord& record) {
+    const Text words = stretch(record.bytes(), block);
+    return reading.add(record.number() == block.rec1 ? words : u"次記録" + words);
+  });
   Text data = reading.text();
   if (data.empty()) data = u"ブランク";
   talkNow(data + (rangeKind == 1 ? u"たいかく範囲あり" : u""));

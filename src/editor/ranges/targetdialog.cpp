@@ -15,6 +15,7 @@
 #include "store/records/records.h"
 #include "store/table/cursor.h"
 #include "voice/dialogs.h"
+#include "voice/heard.h"
 #include "voice/narration.h"
 #include "voice/talk.h"
 
@@ -22,20 +23,26 @@ namespace zelko {
 
 namespace {
 
-void showSilently() {
-  const Silence silence;
-  showCell(static_cast<float>(curRec), curItem, {}, {});
-  dispAll(curItem);
+// The destination mask at the cursor.
+void showTarget(Pointing what) {
+  const RangeBlock block = heldBlock();
+  const auto lastItem = static_cast<std::int16_t>(curItem + block.item2 - block.item1);
+  if (what == Pointing::items) {
+    targetMask(block.rec1, block.rec2, curItem, curItem, targetColour());
+  } else if (what == Pointing::records) {
+    targetMask(curRec, curRec, block.item1, block.item2, targetColour());
+  } else {
+    targetMask(curRec, curRec + block.rec2 - block.rec1, curItem, lastItem, targetColour());
+  }
 }
 
 bool targetIsInside(std::int32_t first, std::int32_t last) { return moveTo >= first && moveTo <= last; }
 
 // The rewrites bring their own sentences; the box that gets the focus in between has nothing to say.
 void closeBeforeRewrite() {
-  const Silence silence;
   hideTargetMask();
-  unload<frmMSSG>();
-  talkLast = 0;  // the cell that is there at the end is always heard
+  if (auto* dialog = loadedForm<frmMSSG>()) closeUnheard(*dialog);
+  nextIsHeard();  // the cell that is there at the end
 }
 
 void endWork() {
@@ -65,20 +72,20 @@ frmMSSG::frmMSSG() : Form(kName, u"移動") {
 // Spoken past the gate: of a held key the last place is the one that counts.
 void frmMSSG::frmMSSG_Text2_KeyDown(KeyEvent& key) {
   Text sentence;
-  if (!movePointer(key, sentence)) return;
+  if (!movePointer(pointing, key, sentence)) return;
   key.swallow();
   if (sentence.empty()) return;
   pointed_ = sentence;
   autoIdOn = 0;
-  showSilently();
-  moveTarget();
+  showUnheard();
+  showTarget(pointing);
   Text2.setText(decimal(moveTo));
   talkNow(sentence);
 }
 
 void frmMSSG::frmMSSG_Command1_Click() {
-  if (mode == u"moverecord") return moveRecordsThere();
-  if (mode == u"moveitem") return moveItemsThere();
+  if (pointing == Pointing::records) return moveRecordsThere();
+  if (pointing == Pointing::items) return moveItemsThere();
   moveDataThere();
 }
 
@@ -103,38 +110,27 @@ void frmMSSG::moveItemsThere() {
 }
 
 void frmMSSG::moveDataThere() {
-  const bool moves = mode == u"move";
+  const bool moves = pointing == Pointing::cellsToMove;
   if (moves) talkNow(Text(u"ﾃﾞｰﾀ移動実行中．．．．"));
   copyBlock(heldBlock(), curRec, curItem, moves);
   moveCancel();
   showTitle();
 }
 
-void pointAtTarget(const PointingWords& words) {
-  commitBox();
+void pointAtTarget(Pointing what, const PointingWords& words) {
+  mode = words.mode;
   autoIdOn = 0;
   loadCache(curRec);
-  showSilently();
+  showUnheard();
   frmMSSG& dialog = form<frmMSSG>();
+  dialog.pointing = what;
   dialog.setCaption(words.title);
   dialog.Label1.setCaption(words.sentence);
   dialog.Command1.setCaption(words.button);
   dialog.Text2.setText(decimal(moveTo));
-  moveTarget();
-  talkLast = 0;  // the sentence of the opening is always heard
+  showTarget(what);
+  nextIsHeard();  // the sentence of the opening
   dialog.showModal();
-}
-
-void moveTarget() {
-  const RangeBlock block = heldBlock();
-  const auto lastItem = static_cast<std::int16_t>(curItem + block.item2 - block.item1);
-  if (mode == u"moveitem") {
-    targetMask(block.rec1, block.rec2, curItem, curItem, targetColour());
-  } else if (mode == u"moverecord") {
-    targetMask(curRec, curRec, block.item1, block.item2, targetColour());
-  } else {
-    targetMask(curRec, curRec + block.rec2 - block.rec1, curItem, lastItem, targetColour());
-  }
 }
 
 void moveCancel() {
@@ -142,7 +138,7 @@ void moveCancel() {
   hideRangeMask();
   dropRange();
   loadCache(curRec);
-  showSilently();
+  showUnheard();
   emptyInputBox();
   showTyping({});
   mode.clear();

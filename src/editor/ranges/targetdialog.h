@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "editor/ranges/targetpointer.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
 
@@ -17,6 +18,7 @@ class frmMSSG : public Form {
   TextBox Text2{*this, u"Text2"};       // the destination; its keys move the pointer
   Button Command1{*this, u"Command1", u""};
   Button Command2{*this, u"Command2", u"中止(ESC)"};
+  Pointing pointing = Pointing::cellsToCopy;
 
  private:
   void frmMSSG_Text2_KeyDown(KeyEvent& key);
@@ -29,14 +31,11 @@ class frmMSSG : public Form {
 };
 
 struct PointingWords {
-  TextView title, button, sentence;
+  TextView mode, title, button, sentence;
 };
-// In one of the modes "copy", "move", "moveitem", "moverecord", with the cursor and moveTo on the first destination:
-// opens the dialog; returns when the work is done or was given up.
-void pointAtTarget(const PointingWords& words);
-// Shows the destination mask at the cursor.
-void moveTarget();
-// Esc: no mode, no masks, no range, the input box ready and empty.
+// With the cursor and moveTo on the first destination: opens the dialog; returns when the work is done or was given up.
+void pointAtTarget(Pointing what, const PointingWords& words);
+// Esc: `mode` empty, no masks, no range, the input box ready and empty.
 void moveCancel();
 
 }  // namespace zelko

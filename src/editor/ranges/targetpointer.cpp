@@ -23,7 +23,7 @@ struct Wish {
   std::int64_t place;
 };
 
-bool pointsAtData() { return mode == u"copy" || mode == u"move"; }
+bool pointsAtData(Pointing what) { return what == Pointing::cellsToCopy || what == Pointing::cellsToMove; }
 std::int32_t placeOn(Axis axis) { return axis == Axis::records ? curRec : curItem; }
 
 Text askedPlace(TextView question, TextView title) { return trimmed(talkAsk(question, title, {})); }
@@ -42,7 +42,9 @@ std::optional<Wish> askRecordPlace() {
   return Wish{Axis::records, targetOf(answer, curRec, 1, recCount())};
 }
 
-bool isOnAxis(Axis axis) { return pointsAtData() || (axis == Axis::records) == (mode == u"moverecord"); }
+bool isOnAxis(Pointing what, Axis axis) {
+  return pointsAtData(what) || (axis == Axis::records) == (what == Pointing::records);
+}
 
 // Where the arrow leads, with Ctrl to the end; empty for another key.
 std::optional<Wish> arrowWish(const KeyEvent& key) {
@@ -64,12 +66,12 @@ std::optional<Wish> arrowWish(const KeyEvent& key) {
 
 // The nearest place that the pointer may take on the way to the wished one; empty where there is none. The place right
 // behind a moved block is the block's own, and nothing is moved behind the last one.
-std::optional<std::int32_t> allowedPlace(const Wish& wish) {
+std::optional<std::int32_t> allowedPlace(Pointing what, const Wish& wish) {
   const bool records = wish.axis == Axis::records;
   const std::int64_t lowest = records ? 1 : 0;
-  const std::int64_t highest = records ? std::int64_t{recCount()} + (pointsAtData() ? 1 : 0) : itemCount;
+  const std::int64_t highest = records ? std::int64_t{recCount()} + (pointsAtData(what) ? 1 : 0) : itemCount;
   std::int64_t place = wish.place;
-  if (!pointsAtData()) {
+  if (!pointsAtData(what)) {
     const RangeBlock block = heldBlock();
     const std::int64_t first = records ? block.rec1 : block.item1, last = records ? block.rec2 : block.item2;
     if (place >= first && place <= last + 1) place = place > placeOn(wish.axis) ? last + 2 : first - 1;
@@ -88,12 +90,13 @@ Text span(std::int32_t first, std::int32_t last) {
   return first == last ? decimal(first) : decimal(first) + u"から" + decimal(last);
 }
 
-Text pointerSentence(Axis axis) {
+Text pointerSentence(Pointing what, Axis axis) {
   const bool records = axis == Axis::records;
   const AxisWords& words = records ? kRecordWords : kItemWords;
   const RangeBlock block = heldBlock();
   const std::int32_t first = records ? block.rec1 : block.item1, last = records ? block.rec2 : block.item2;
-  const Text end = mode == u"copy" ? u"にｺﾋﾟｰ" : mode == u"move" ? u"に移動" : u"の前に";
+  const bool copies = what == Pointing::cellsToCopy;
+  const Text end = copies ? u"にｺﾋﾟｰ" : what == Pointing::cellsToMove ? u"に移動" : u"の前に";
   return Text(words.from) + decimal(first) + Text(words.moved) + span(first, last) + Text(words.to) + decimal(moveTo) +
          end;
 }
@@ -109,10 +112,10 @@ void stand(Axis axis, std::int32_t place) {
 }
 
 // A jump may be given up in its question, which is no refusal.
-bool jumpWish(const KeyEvent& key, std::optional<Wish>& wish) {
-  if (key.is('H', shift::Ctrl) && isOnAxis(Axis::items)) {
+bool jumpWish(Pointing what, const KeyEvent& key, std::optional<Wish>& wish) {
+  if (key.is('H', shift::Ctrl) && isOnAxis(what, Axis::items)) {
     wish = askItemPlace();
-  } else if (key.is('J', shift::Ctrl) && isOnAxis(Axis::records)) {
+  } else if (key.is('J', shift::Ctrl) && isOnAxis(what, Axis::records)) {
     wish = askRecordPlace();
   } else {
     return false;
@@ -124,18 +127,18 @@ bool isJumpKey(const KeyEvent& key) { return key.is('H', shift::Ctrl) || key.is(
 
 }  // namespace
 
-bool movePointer(const KeyEvent& key, Text& sentence) {
+bool movePointer(Pointing what, const KeyEvent& key, Text& sentence) {
   sentence.clear();
   std::optional<Wish> wish = arrowWish(key);
   if (!wish && !isJumpKey(key)) return false;
-  if (!wish && jumpWish(key, wish) && !wish) return true;
-  const auto place = wish && isOnAxis(wish->axis) ? allowedPlace(*wish) : std::nullopt;
+  if (!wish && jumpWish(what, key, wish) && !wish) return true;
+  const auto place = wish && isOnAxis(what, wish->axis) ? allowedPlace(what, *wish) : std::nullopt;
   if (!place || (*place == placeOn(wish->axis) && !isJumpKey(key))) {
     host().beep();
     return true;
   }
   stand(wish->axis, *place);
-  sentence = pointerSentence(wish->axis);
+  sentence = pointerSentence(what, wish->axis);
   return true;
 }
 

@@ -8,8 +8,11 @@
 
 namespace zelko {
 
+// What the destination is pointed at for.
+enum class Pointing { records, items, cellsToCopy, cellsToMove };
+
 // One key that moves the pointer, curRec or curItem and moveTo with it. False for a key that belongs to no pointer; a
 // beep where it can't go there. `sentence` is what it says when it stands somewhere else, else empty.
-bool movePointer(const KeyEvent& key, Text& sentence);
+bool movePointer(Pointing what, const KeyEvent& key, Text& sentence);
 
 }  // namespace zelko

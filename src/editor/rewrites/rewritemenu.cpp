@@ -38,7 +38,7 @@ void runRangeKey(std::int16_t kind, int code) {
   const bool held = rangeKind == kind;
   if (!held) {
     if (rangeKind != 0) dropRangeAndShow();
-    commitBox();
+    if (!commitBox()) return;
     if (kind == kRecords && curRec > recCount()) return host().beep();
     takeCursorAsRange(kind);
   }
@@ -50,7 +50,7 @@ void runRangeKey(std::int16_t kind, int code) {
 
 void insertAtCursor(std::int32_t count) {
   if (rangeKind != 0) dropRangeAndShow();
-  commitBox();
+  if (!commitBox()) return;
   mode = u"insertrecord";
   insertRecords(count, docPath, docDrive);
 }
@@ -77,7 +77,7 @@ void openWidth(int step) {
   if (viewKind == 1) return showOK(u"個別記録表示中は項目幅変更は出来ません", u"注意");
   if (refusedAsReadOnly()) return;
   if (rangeKind != 0) dropRangeAndShow();
-  commitBox();
+  if (!commitBox()) return;
   changeWidth(step);
 }
 

@@ -61,7 +61,7 @@ void previewWidths(const std::array<std::int16_t, kMaxItems>& widths) {
   for (std::int32_t i = 0; i < cacheSize && cacheBase + i <= records; ++i)
     layRow(recCache[static_cast<std::size_t>(i + 2)], cells);
   rangeMask(1, std::max(records, 1), curItem, curItem, kWidthMask);
-  dispAll(curItem);
+  repaintView();
   mainForm().showItem(curItem);
   if (auto* width = loadedForm<frmFLN>()) width->showRuler();
 }

@@ -8,6 +8,7 @@
 #include "platform/text/number.h"
 #include "store/records/records.h"
 #include "store/table/cursor.h"
+#include "voice/heard.h"
 #include "voice/narration.h"
 #include "voice/talk.h"
 
@@ -50,7 +51,7 @@ void frmFLN::narrate() {
 void frmFLN::takeFirstStep() {
   const int step = std::exchange(firstStep, 0);
   if (step == 0) return;
-  if (talkMode != 0) waitSec(talkGap);
+  waitPastGate();
   step > 0 ? widenItem(curItem) : narrowItem(curItem);
 }
 
@@ -60,10 +61,7 @@ Text frmFLN::sentence() const {
          u"の項目幅操作中です。ｺﾝﾄﾛｰﾙｽﾍﾟｰｽで現在の項目幅縮小、ｼﾌﾄｽﾍﾟｰｽで拡大、CRで確定、エスケープで元通りです。";
 }
 
-void frmFLN::showRuler() {
-  takeRow(curRec);
-  Text1.setText(cellOfCur(curItem));
-}
+void frmFLN::showRuler() { Text1.setText(cellOfRow(rowOf(curRec), curItem)); }
 
 void frmFLN::frmFLN_KeyDown(KeyEvent& key) {
   const bool wider = key.is(key::Space, shift::Shift);

@@ -44,8 +44,7 @@ Text frmKOJIND::cellAtGrid(int row, int col) const {
   if (row == 0) return Text(kHead[std::clamp(col, 0, 2)]);
   if (col == 0) return decimal(row - 1);
   if (col == 1) return trimmed(itemName[static_cast<std::size_t>(row - 1)]);
-  takeRow(curRec);
-  return trimmed(cellOfCur(row - 1));
+  return trimmed(cellOfRow(rowOf(curRec), row - 1));
 }
 
 Text frmKOJIND::markedLine() const {

@@ -10,6 +10,7 @@
 #include "store/records/records.h"
 #include "store/table/cursor.h"
 #include "store/table/itemfile.h"
+#include "voice/heard.h"
 #include "voice/narration.h"
 #include "voice/talk.h"
 
@@ -70,11 +71,7 @@ void frmItemList::frmItemList_Command2_Click() {
   const bool taken = item >= 0 && caller != listCallers().end();
   listCaller = 0;
   if (!taken) return screen().unload(*this);
-  {
-    // What the caller does with the item is heard, not where the focus was before.
-    const Silence silence;
-    screen().unload(*this);
-  }
+  closeUnheard(*this);  // what the caller does with the item is heard, not where the focus was before
   caller->second(item);
 }
 

@@ -105,7 +105,7 @@ void frmSHEET::openMarkedCell() {
   std::int32_t record = cacheBase + Grid1.row() - 1;
   auto item = static_cast<std::int16_t>(Grid1.col() - 1);
   mainForm().activate();
-  commitBox();
+  if (!commitBox()) return;
   goTo(std::min(record, recCount() + 1), item);
 }
 
@@ -113,8 +113,7 @@ void showTyping(TextView text) {
   auto* sheet = loadedForm<frmSHEET>();
   if (!sheet) return;
   if (!text.empty()) return sheet->Label1.setCaption(text);
-  takeRow(curRec);
-  sheet->Label1.setCaption(trimmedRight(cellOfCur(curItem)));
+  sheet->Label1.setCaption(trimmedRight(cellOfRow(rowOf(curRec), curItem)));
 }
 
 void rangeMask(std::int32_t rec1, std::int32_t rec2, std::int16_t item1, std::int16_t item2, Colour colour) {

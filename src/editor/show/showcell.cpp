@@ -1,6 +1,7 @@
 #include "editor/show/showcell.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "editor/main/filling.h"
 #include "editor/main/form1.h"
@@ -11,6 +12,7 @@
 #include "platform/text/number.h"
 #include "store/records/records.h"
 #include "store/table/cursor.h"
+#include "voice/talk.h"
 
 namespace zelko {
 namespace {
@@ -18,25 +20,24 @@ namespace {
 // Twips of the main form as it is laid out at 100 %.
 constexpr int kFormWidth = 11895, kInputLeft = 1320, kRightMargin = 200;
 
-Text idCaption() {
-  Text id = trimmed(cellOfCur(0));
+Text idCaption(const CacheRow& row) {
+  Text id = trimmed(cellOfRow(row, 0));
   return autoIdOn == 1 ? id + u"(自動更新！)" : id;
 }
 
-void refreshAlwaysShown() {
+void refreshAlwaysShown(const CacheRow& row) {
   if (spItem == kNoItem) return;
   Form* view = screen().loaded(u"frmSPITEM");
   Control* label = view ? view->find(u"Label1") : nullptr;
-  if (label) label->setCaption(trimmed(cellOfCur(spItem)));
+  if (label) label->setCaption(trimmed(cellOfRow(row, spItem)));
 }
 
-bool focusBelongsElsewhere() {
-  static constexpr TextView kWords[] = {u"chfln", u"move", u"moveitem",   u"moverecord",
-                                        u"copy",  u"srch", u"narabekaef", u"HTYU"};
-  for (TextView word : kWords) {
-    if (mode == word) return true;
-  }
-  return false;
+// The main form, the views that stand beside it, and what stands there while a command works.
+bool editorHasKeyboard() {
+  static constexpr TextView kBeside[] = {frmSHEET::kName, frmKOJIND::kName, u"frmSPITEM", u"frmAGENT"};
+  const Form* active = screen().activeForm();
+  if (!active || active->name() == Form1::kName || active->liveDuringWork) return true;
+  return std::ranges::find(kBeside, active->name()) != std::end(kBeside);
 }
 
 }  // namespace
@@ -48,12 +49,11 @@ void showCell(float record, float item, TextView preset, TextView) {
   auto i = static_cast<std::size_t>(item);
   // A single holds no more than 24 bits: the cursor itself is meant where it rounds to the same.
   std::int32_t wanted = record == static_cast<float>(curRec) ? curRec : static_cast<std::int32_t>(record);
-  takeRow(wanted);
-  refreshAlwaysShown();
+  const CacheRow row = rowOf(wanted);
+  refreshAlwaysShown(row);
   main.txtREC.setText(decimal(wanted));
-  takeRow(wanted);
   main.Text1.setText(decimal(itemCount));
-  main.Label13.setCaption(idCaption());
+  main.Label13.setCaption(idCaption(row));
   main.txtItemnum.setText(decimal(static_cast<std::int64_t>(i)));
   main.showItem(static_cast<std::int16_t>(i));
   main.txtinputbox.setWidth(std::min(itemWidth[i] * boxCharTwips, kFormWidth - kInputLeft - kRightMargin));
@@ -62,13 +62,23 @@ void showCell(float record, float item, TextView preset, TextView) {
   main.Label11.setCaption(entryItemsCaption());
 }
 
-void dispAll(std::int16_t&) {
+void repaintView() {
   if (viewKind == 1) {
     if (auto* card = loadedForm<frmKOJIND>()) card->repaint();
-    return;
+  } else if (auto* sheet = loadedForm<frmSHEET>()) {
+    sheet->repaint();
   }
-  if (auto* sheet = loadedForm<frmSHEET>()) sheet->repaint();
-  if (!focusBelongsElsewhere()) focusInputBox();
+}
+
+void dispAll(std::int16_t&) {
+  repaintView();
+  if (viewKind != 1 && editorHasKeyboard()) focusInputBox();
+}
+
+void showUnheard() {
+  const Silence silence;
+  showCell(static_cast<float>(curRec), curItem, {}, {});
+  repaintView();
 }
 
 void showTitle() {

@@ -9,8 +9,12 @@ namespace zelko {
 
 // Fills the controls of Form1 for that cell.
 void showCell(float record, float item, TextView preset, TextView spare);
-// Repaints the view from the cache and gives the input box the focus when no mode forbids it.
+// The view beside the main form again, from the cache.
+void repaintView();
+// The same, and the input box gets the focus, unless the user is at another form than the editor's own.
 void dispAll(std::int16_t& item);
+// showCell and the view for the cursor in silence, for a form that has the keyboard and tells the place itself.
+void showUnheard();
 // Title of the main form: product name, table, record count.
 void showTitle();
 // Shows or hides the mark "ReadOnly!" of the main form.

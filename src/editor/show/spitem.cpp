@@ -29,7 +29,7 @@ Text spItemCaption() {
   return decimal(spItem) + u":" + trimmed(itemName[spItem]);
 }
 
-Text spItemCell() { return spItem == kNoItem ? Text() : trimmed(cellOfRow(currentRow(), spItem)); }
+Text spItemCell() { return spItem == kNoItem ? Text() : trimmed(cellOfRow(rowOf(curRec), spItem)); }
 
 void refreshSpItem() {
   if (spItem == kNoItem) return;

@@ -10,7 +10,6 @@
 #include "files/picker/pickerform.h"
 #include "files/picker/pickeropening.h"
 #include "parts/disk/filewords.h"
-#include "parts/job/lateprogress.h"
 #include "platform/files/ownedfile.h"
 #include "platform/files/workfiles.h"
 #include "platform/host.h"
@@ -22,6 +21,7 @@
 #include "store/table/itemfile.h"
 #include "store/table/notice.h"
 #include "voice/dialogs.h"
+#include "voice/progress.h"
 #include "voice/talk.h"
 
 namespace zelko {

@@ -40,7 +40,7 @@ void showTableItems(TextView dataFile, TextView name) {
   const bool marked = readOnlyMarkShown();
   Text drive, path, error;
   splitName(dataFile, drive, path);
-  readKFileOther(path, drive, error);
+  readKFileOther(path, drive, error, false);
   if (marked) showReadOnlyMark(true);
   if (error.empty()) return showOtherItemList(name);
   keepEditedTableOpen();

@@ -33,7 +33,7 @@ void storeEditedTable() {
 
 void storeTypedCell() {
   if (docPath.empty() || !isOpen(kDataFile)) return;
-  commitBox();
+  if (!commitBox()) return;
   storeEditedTable();
 }
 

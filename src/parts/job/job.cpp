@@ -11,6 +11,7 @@
 #include "store/table/notice.h"
 #include "store/table/readonly.h"
 #include "voice/dialogs.h"
+#include "voice/heard.h"
 #include "voice/progress.h"
 #include "voice/talk.h"
 
@@ -50,7 +51,7 @@ void endJob(JobEnd end, bool keepsRange, const Text& said, const std::function<v
   if (end == JobEnd::failed) tellFailure ? tellFailure() : tellWriteError();
   if (said.empty()) {
     // The cell is news, whatever was said a moment ago.
-    talkLast = 0;
+    nextIsHeard();
     return editorHooks.reload(keepsRange);
   }
   {

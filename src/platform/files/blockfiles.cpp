@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -65,6 +66,12 @@ bool leadsTo(TextView path, int number) {
   struct stat status {};
   if (file == nullptr || stat(nativePath(path).c_str(), &status) != 0) return false;
   return status.st_dev == file->device && status.st_ino == file->inode;
+}
+
+// Where locks are not to be had nobody is refused.
+bool lockFile(int number) {
+  const OpenFile* file = openFile(number, OpenFile::Use::random);
+  return file == nullptr || flock(file->descriptor, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
 }
 
 FileError cutOpenFile(int number, std::int64_t length) {

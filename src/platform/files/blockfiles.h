@@ -19,6 +19,9 @@ FileError writeBlock(int number, std::int64_t offset, std::string_view bytes);
 FileError mayWriteRecords(int number);
 // Whether the name leads to that very file.
 bool leadsTo(TextView path, int number);
+// Tells other programs that the file is in use, until it is closed or the program ends, however it ends. False where
+// one of them has told so first.
+bool lockFile(int number);
 // The open file ends behind `length` bytes.
 FileError cutOpenFile(int number, std::int64_t length);
 

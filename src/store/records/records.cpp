@@ -3,9 +3,7 @@
 #include <algorithm>
 #include <limits>
 
-#include "platform/fault.h"
 #include "platform/files/files.h"
-#include "store/table/cursor.h"
 #include "store/table/mainform.h"
 #include "store/table/notice.h"
 
@@ -33,12 +31,6 @@ void tellRefusedWrite(FileError error, int file, std::int32_t record, const Cach
   if (told.file == file && told.record == record && told.bytes == bytes) return;
   told = {file, record, bytes};
   tellWriteError();
-}
-
-// The index of the record's row in the cache; 0 where it isn't there.
-std::size_t rowIndex(std::int32_t record) {
-  const std::int64_t row = std::int64_t{record} - cacheBase + 2;
-  return row >= 2 && row < kCacheRows ? static_cast<std::size_t>(row) : 0;
 }
 
 }  // namespace
@@ -75,12 +67,6 @@ bool putRec(int file, std::int32_t record, std::string_view bytes) {
   return true;
 }
 
-CacheRow& currentRow() {
-  const std::size_t row = rowIndex(curRec);
-  if (row == 0) throw Fault{kSubscript};
-  return recCache[row];
-}
-
 std::string_view rowBytes(const CacheRow& row) { return {row.data(), kDataBytes}; }
 
 void setRow(CacheRow& row, std::string_view bytes) {
@@ -89,53 +75,6 @@ void setRow(CacheRow& row, std::string_view bytes) {
   std::fill(rest, row.end() - 2, ' ');
   row[kDataBytes] = '\r';
   row[kDataBytes + 1] = '\n';
-}
-
-bool flushRec() {
-  CacheRow& row = currentRow();
-  const std::string_view bytes = rowBytes(row);
-  if (curRec > recCount() && (bytes == slashRec || bytes == blankRec)) return true;
-  // A last cell that reaches over the line end gives those bytes back.
-  row[kDataBytes] = '\r';
-  row[kDataBytes + 1] = '\n';
-  const bool stored = putRec(kDataFile, curRec, {row.data(), row.size()});
-  if (curRec >= recCount()) mainFormHooks.showTitle();
-  return stored;
-}
-
-void loadCache(std::int32_t record) {
-  forgetToldFailure();
-  cacheBase = std::max(1, record - cacheSize / 2 + 1);
-  const std::int32_t count = recCount();
-  for (int i = 0; i < cacheSize; ++i) {
-    CacheRow& row = recCache[static_cast<std::size_t>(i + 2)];
-    const std::int64_t number = std::int64_t{cacheBase} + i;
-    if (number > count)
-      setRow(row, blankRec);
-    else
-      getRec(kDataFile, static_cast<std::int32_t>(number), row);
-  }
-}
-
-void cacheScrollUp() {
-  if (curRec == 1 || cacheBase == 1) return;
-  --cacheBase;
-  const auto first = recCache.begin() + 2;
-  std::copy_backward(first, first + cacheSize - 1, first + cacheSize);
-  getRec(kDataFile, cacheBase, *first);
-}
-
-void takeRow(std::int32_t record) {
-  const std::size_t row = rowIndex(record);
-  if (row >= 2 && row < static_cast<std::size_t>(cacheSize) + 2)
-    recCache[1] = recCache[row];
-  else
-    getRec(kDataFile, record, recCache[1]);
-}
-
-Text cellAt(std::int32_t record, int item) {
-  getRec(kDataFile, record, recCache[0]);
-  return cellOfRow(recCache[0], item);
 }
 
 }  // namespace zelko

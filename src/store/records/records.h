@@ -23,22 +23,30 @@ void forgetToldFailure();
 
 // The cache row of the current record; a fault where the cache does not hold it.
 CacheRow& currentRow();
+// Any record as it stands before the user: the row of the cache, with what was typed into it, else from the disk.
+CacheRow rowOf(std::int32_t record);
 std::string_view rowBytes(const CacheRow& row);      // its first 254 bytes
 void setRow(CacheRow& row, std::string_view bytes);  // cut to 254 or padded with blanks; CR LF behind
 
-// Stores the current row if it holds something (beyond the count: neither blank nor slashes); false when the store
-// failed. The cached row has CR LF behind its 254 bytes again.
+// Stores the current row where it differs from what was read: its changed cells, with CR LF behind the record. A row
+// beyond the count that is blank or slashes is not stored, nor is one outside the cache. Where another program has
+// changed the record or put another file in the place of this one, the user is asked whose record stays. False when
+// nothing was stored: the write failed, or the user held it back.
 bool flushRec();
+// The last flushRec was held back by the user, who wants to stay where the cursor is.
+bool storeWasHeldBack();
 // Reloads the cache centred on `record`, whole, from disk: flushRec must come first.
 void loadCache(std::int32_t record);
+// The same with the rows outside the file slashed, from cacheBase on, as a table is opened.
+void fillCache();
 // One record back, keeping the other rows.
 void cacheScrollUp();
 
-// The cell of `item`, cut by bytes, blanks included; the record is that of row 1, or any row. The line end of the
-// record counts as two blanks.
-Text cellOfCur(int item);
+// The cell of `item`, cut by bytes, blanks included; the line end of the record counts as two blanks.
 Text cellOfRow(const CacheRow& row, int item);
-// Copies the row of `record` to row 1, where cellOfCur cuts; a record outside the cache is read from disk.
+// The same of row 1, where takeRow puts rowOf(record); any repaint may take another: the program's own code passes
+// rows.
+Text cellOfCur(int item);
 void takeRow(std::int32_t record);
 // The cell read from disk through row 0.
 Text cellAt(std::int32_t record, int item);

@@ -1,6 +1,7 @@
 #include "store/records/recordshape.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "platform/fault.h"
 #include "platform/text/sjis.h"
@@ -60,6 +61,19 @@ RecordShape::RecordShape(const TableDescription& table) {
     cells_.emplace_back(start, table.items[i].width, table.items[i].alignment, i + 1 == table.items.size());
     start += table.items[i].width;
   }
+}
+
+void keepOthersCells(char* ours, const char* before, const char* onDisk, const RecordShape& shape) {
+  int start = 0;
+  const auto keepUpTo = [&](int end) {
+    if (start >= end) return;
+    const auto size = static_cast<std::size_t>(end - start);
+    if (std::memcmp(ours + start, before + start, size) == 0) std::memcpy(ours + start, onDisk + start, size);
+    start = end;
+  };
+  for (int item = 0; item <= shape.lastItem(); ++item)
+    keepUpTo(std::min<int>(shape.at(item).start + shape.at(item).length, kDataBytes));
+  keepUpTo(kDataBytes);
 }
 
 const CellPlace& RecordShape::at(int item) const {

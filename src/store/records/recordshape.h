@@ -43,4 +43,7 @@ class RecordShape {
   std::vector<CellPlace> cells_;
 };
 
+// `ours` was made out of `before`; what stands on the disk by now takes the place of each cell that we did not change.
+void keepOthersCells(char* ours, const char* before, const char* onDisk, const RecordShape& shape);
+
 }  // namespace zelko

@@ -7,7 +7,6 @@
 #include "store/records/records.h"
 #include "store/records/walkblock.h"
 #include "voice/progress.h"
-#include "voice/talk.h"
 
 namespace zelko {
 
@@ -16,7 +15,6 @@ namespace {
 constexpr std::int32_t kFirstBlock = 16, kLargestBlock = 1024;  // records
 constexpr std::int64_t kAskedAtEach = 4096;                     // so many records, then at every sixteenth
 constexpr std::int64_t kAskedAtEvery = 16;
-constexpr float kDialogAfter = 1;  // seconds
 
 std::int64_t lengthOfWalk(const Walk& walk) {
   const std::int64_t last = walk.lengthens ? walk.last : std::min(walk.last, recCountOf(walk.file));
@@ -33,10 +31,10 @@ class Walker {
         total_(lengthOfWalk(walk)),
         lowest_(std::max(walk.first, 1)),
         highest_(static_cast<std::int32_t>(lowest_ + total_ - 1)),
-        progress_(walk.progress),
-        begun_(host().dayTimer()),
-        block_(walk.file),
-        record_(shape_, *this) {}
+        block_(walk.file, shape_),
+        record_(shape_, *this) {
+    if (!walk.progress && !walk.work.empty()) late_.emplace(walk.work, walk.doneBefore + total_);
+  }
 
   WalkEnd run(const std::function<bool(ChangedRecord&)>& visit) {
     try {
@@ -53,11 +51,7 @@ class Walker {
   // A question follows: the dialog goes, and opens again only when the walk itself takes its second.
   bool storeNow() {
     asked_ = true;
-    if (late_) {
-      const Silence silence;
-      late_.reset();
-      progress_ = nullptr;
-    }
+    if (late_) late_->close();
     block_.settle(record_.number_);
     isOld_ = true;
     failed_ = !block_.store(walk_.towardsHead) || failed_;
@@ -71,7 +65,7 @@ class Walker {
       const auto steps = static_cast<std::int32_t>(done_ - 1);
       if (!take(walk_.towardsHead ? highest_ - steps : lowest_ + steps)) return WalkEnd::failed;
       const bool further = visit(record_);
-      if (asked_) begun_ = host().dayTimer();
+      if (asked_ && late_) late_->restart();
       asked_ = false;
       block_.settle(record_.number_);
       if (failed_) return WalkEnd::failed;
@@ -83,25 +77,22 @@ class Walker {
   // Lets events through, behind what waits to be stored; false at a stop or where that failed.
   bool goOn() {
     if (done_ > kAskedAtEach && done_ % kAskedAtEvery != 0 && done_ != total_) return true;
-    const bool opens = opensDialog();
-    const bool shows = opens || (progress_ && progress_->shows(walk_.doneBefore + done_));
     if (block_.waits()) {
-      if (!shows && !host().eventWaits()) return true;
+      if (!shows() && !host().eventWaits()) return true;
       failed_ = !block_.store(walk_.towardsHead);
       if (failed_) return false;
     }
     isOld_ = isOld_ || block_.isOld();
-    if (opens) progress_ = &late_.emplace(walk_.work, walk_.doneBefore + total_);
-    if (progress_) return progress_->step(walk_.doneBefore + done_);
+    const std::int64_t done = walk_.doneBefore + done_;
+    if (walk_.progress) return walk_.progress->step(done);
+    if (late_) return late_->step(done);
     host().letEventsThrough();
     return true;
   }
 
-  bool opensDialog() {
-    if (progress_ || walk_.work.empty()) return false;
-    const float now = host().dayTimer();
-    if (now < begun_) begun_ = now;  // midnight
-    return now - begun_ > kDialogAfter;
+  bool shows() {
+    const std::int64_t done = walk_.doneBefore + done_;
+    return walk_.progress ? walk_.progress->shows(done) : late_ && late_->shows(done);
   }
 
   bool take(std::int32_t number) {
@@ -125,9 +116,7 @@ class Walker {
   const RecordShape shape_;
   const std::int64_t total_;
   const std::int32_t lowest_, highest_;
-  Progress* progress_;
-  std::optional<Progress> late_;
-  float begun_;
+  std::optional<LateProgress> late_;
   RecordBlock block_;
   ChangedRecord record_;
   std::int64_t done_ = 0;

@@ -114,7 +114,7 @@ bool RecordBlock::storeRun(std::int32_t first, std::int32_t last, bool tell) {
   return stored;
 }
 
-// What stands on the disk by now, with our changed bytes over it.
+// What stands on the disk by now, with the cells that we changed over it.
 bool RecordBlock::mergeOthers(std::int32_t first, std::int32_t last) {
   const std::size_t size = static_cast<std::size_t>(last - first + 1) * recLen;
   if (onDisk_.size() < size) onDisk_.resize(size);
@@ -122,9 +122,8 @@ bool RecordBlock::mergeOthers(std::int32_t first, std::int32_t last) {
   if (readBlock(file_, placeOf(first), onDisk_.data(), size, got) != FileError::none || got != size) return false;
   const char* before = before_.data() + offset(first);
   if (std::memcmp(onDisk_.data(), before, size) == 0) return true;
-  char* ours = bytesOf(first);
-  for (std::size_t at = 0; at < size; ++at)
-    if (at % recLen < kDataBytes && ours[at] == before[at]) ours[at] = onDisk_[at];
+  for (std::size_t at = 0; at < size; at += recLen)
+    keepOthersCells(bytesOf(first) + at, before + at, onDisk_.data() + at, shape_);
   return true;
 }
 

@@ -4,13 +4,13 @@
 #include <cstdint>
 #include <vector>
 
-#include "store/table/table.h"
+#include "store/records/recordshape.h"
 
 namespace zelko {
 
 class RecordBlock {
  public:
-  explicit RecordBlock(int file) : file_(file) {}
+  RecordBlock(int file, const RecordShape& shape) : file_(file), shape_(shape) {}
 
   // Takes the records first..first + count - 1; those behind the end of the file are blank. False where one can't be
   // read.
@@ -43,6 +43,7 @@ class RecordBlock {
   bool writeRun(std::int32_t first, std::int32_t last);
 
   int file_;
+  const RecordShape& shape_;
   std::int32_t first_ = 0, count_ = 0;
   std::int32_t waiting_ = 0;
   std::int64_t loadedAt_ = 0;                 // milliseconds

@@ -27,8 +27,6 @@ void computeItemStart() {
 
 Text cellOfRow(const CacheRow& row, int item) { return cellText({row.data(), row.size()}, placeOf(item)); }
 
-Text cellOfCur(int item) { return cellOfRow(recCache[1], item); }
-
 std::string paddedCell(TextView text, int width, TextView alignment) {
   return paddedBytes(toSjis(text), width, alignment == u"R");
 }

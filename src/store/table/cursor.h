@@ -10,7 +10,9 @@ namespace zelko {
 extern std::int32_t curRec;   // 1..record count + 1
 extern std::int16_t curItem;  // 0..itemCount
 
-// Empty in plain entry; "HTYU" while a range is being chosen, and so on. Shared dialogs branch on it.
+// What the program is in the middle of: empty in plain entry, "HTYU" while a range is being chosen, and so on.
+// Published for those who look at the program from outside; who begins something sets and clears it, and nobody
+// branches on it.
 extern Text mode;
 
 // 0 none, 1 rectangle, 2 whole records, 3 whole items. The first of a pair is the anchor and may be above the second.

@@ -59,13 +59,13 @@ void readKFile(TextView path, TextView drive, Text& error) {
     error = u"error";
 }
 
-void readKFileOther(TextView path, TextView drive, Text& error) {
+void readKFileOther(TextView path, TextView drive, Text& error, bool closesFiles) {
   TableDescription table;
   error.clear();
   showReadOnlyMark(false);
   const ReadResult result = readDescription(itemFilePath(path, drive), table);
   if (result != ReadResult::ok) {
-    if (mode != u"delfile") closeAll();
+    if (closesFiles) closeAll();
     tellUnreadable(result);
     error = u"error";
     return;

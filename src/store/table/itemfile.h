@@ -13,8 +13,9 @@ Text itemFilePath(TextView path, TextView drive);
 // Fills the table description, without itemStart. `error` is empty, or "error" after a message was told; then the
 // description is as it was and all files are closed. The read-only mark is hidden either way.
 void readKFile(TextView path, TextView drive, Text& error);
-// The same into the second set, otherItemStart included; in mode "delfile" a failure closes file 2 only.
-void readKFileOther(TextView path, TextView drive, Text& error);
+// The same into the second set, otherItemStart included. Where `closesFiles` is false a failure leaves the files of the
+// open table open.
+void readKFileOther(TextView path, TextView drive, Text& error, bool closesFiles = true);
 // Writes the table description, as a whole file that takes the place of the old one. False, nothing told, and the old
 // file stands, where the item file is read-only, the folder can't be written or the disk is full.
 bool writeKFile(TextView path, TextView drive);

@@ -9,6 +9,7 @@ namespace zelko {
 struct MainFormHooks {
   std::function<void()> showTitle = [] {};                   // the record count may have changed
   std::function<void(bool)> showReadOnlyMark = [](bool) {};  // the mark "ReadOnly!" comes or goes
+  std::function<void()> showTable = [] {};                   // other records have come in the place of those shown
 };
 extern MainFormHooks mainFormHooks;
 

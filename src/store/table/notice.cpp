@@ -2,16 +2,16 @@
 
 #include "platform/host.h"
 #include "voice/dialogs.h"
-#include "voice/talk.h"
+#include "voice/heard.h"
 
 namespace zelko {
 
 void tellFailure(TextView text, TextView title) {
-  if (talkMode != 0) waitSec(talkGap);
+  waitPastGate();
   host().beep();
   showOK(text, title);
   // The box below has said where it stood before the key; what the key leads to is heard too.
-  talkLast = 0;
+  nextIsHeard();
 }
 
 void tellReadOnly() {

@@ -10,6 +10,7 @@
 #include "store/table/cursor.h"
 #include "store/table/itemfile.h"
 #include "store/table/notice.h"
+#include "store/table/sharing.h"
 #include "voice/talk.h"
 
 namespace zelko {
@@ -19,21 +20,6 @@ namespace {
 constexpr int kDataFile = 1;
 // The new line behind the last record has a number too, of 32 bits.
 constexpr std::int64_t kMostRecords = std::numeric_limits<std::int32_t>::max() - 1;
-
-// Unlike a reload, the rows outside the file are slashed, so that the sheet shows them as such.
-void fillFirstRows() {
-  const std::int32_t count = recCount();
-  if (count > 0) getRec(kDataFile, 1, recCache[1]);
-  for (int i = 0; i < cacheSize; ++i) {
-    CacheRow& row = recCache[static_cast<std::size_t>(i + 2)];
-    const std::int32_t number = cacheBase + i;
-    if (number > count)
-      setRow(row, slashRec);
-    else
-      getRec(kDataFile, number, row);
-  }
-  if (count == 0) setRow(recCache[2], blankRec);
-}
 
 }  // namespace
 
@@ -51,8 +37,11 @@ void openTable(TextView fullName, Text& error) {
   if (!offerRecovery(joinName(drive, path))) return closeAll();
   TableDescription table;
   if (!readToOpen(path, drive, table)) return;
+  const Text name = joinName(drive, path);
+  const Sharing sharing = askToShare(name);
   closeAll();
-  if (openRandom(kDataFile, joinName(drive, path), recLen) != FileError::none) {
+  if (sharing == Sharing::notAtAll) return;
+  if (!openDataFile(name, sharing)) {
     tellFailure(u"Zelkoﾌｧｲﾙでないか、項目設定を記述したﾌｧｲﾙが不良です", u"項目挿入不可能");
     return;
   }
@@ -69,13 +58,14 @@ void openTable(TextView fullName, Text& error) {
   curItem = 0;
   cacheBase = 1;
   forgetToldFailure();
-  fillFirstRows();
+  fillCache();
+  if (recCount() > 0) takeRow(1);
   error.clear();
 }
 
 bool reopenData() {
   const Text name = joinName(docDrive, docPath);
-  return fileExists(name) && openRandom(kDataFile, name, recLen) == FileError::none;
+  return fileExists(name) && openDataFile(name, openedToRead() ? Sharing::toRead : Sharing::forWriting);
 }
 
 }  // namespace zelko

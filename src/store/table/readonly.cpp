@@ -6,6 +6,7 @@
 #include "store/table/itemfile.h"
 #include "store/table/mainform.h"
 #include "store/table/notice.h"
+#include "store/table/sharing.h"
 #include "voice/dialogs.h"
 
 namespace zelko {
@@ -21,10 +22,10 @@ bool confirmed(bool lock) {
 
 }  // namespace
 
-bool tableIsReadOnly() { return !docPath.empty() && isReadOnly(joinName(docDrive, docPath)); }
+bool tableIsReadOnly() { return !docPath.empty() && (openedToRead() || isReadOnly(joinName(docDrive, docPath))); }
 
 bool refusedAsReadOnly() {
-  if (!tableIsReadOnly()) return false;
+  if (!tableIsReadOnly()) return refusedForAnother();
   tellReadOnly();
   return true;
 }
@@ -42,7 +43,9 @@ void toggleReadOnly() {
   // What was typed before the lock is still stored; behind it nothing is.
   if (lock && !flushRec()) return;
   closeFile(1);
-  const bool changed = setReadOnly(joinName(docDrive, docPath), lock) == FileError::none;
+  openForWritingAgain();
+  const Text name = joinName(docDrive, docPath);
+  const bool changed = isReadOnly(name) == lock || setReadOnly(name, lock) == FileError::none;
   if (!reopenData() || !changed) return tellWriteError();
   showReadOnlyMark(lock);
   talkBehindDialog(titleOf(lock));

@@ -24,15 +24,13 @@ TEST_CASE_FIXTURE(EditorFixture, "while a range is chosen the moves store and sh
   open(kItems, kRecords, 2);
   mainForm().txtinputbox.setFocus();
   play({"type x"});
-  mode = u"HTYU";
-  nextItem();
-  nextRec(curItem);
-  prevRec(curItem);
+  nextItem(MoveFor::range);
+  nextRec(curItem, MoveFor::range);
+  prevRec(curItem, MoveFor::range);
   CHECK(cursor() == std::pair{1, 1});
   CHECK(utf8(mainForm().txtREC.content()) == "1");
   CHECK(utf8(mainForm().txtinputbox.content()) == "x");
   reloadCur(1);
-  CHECK(mode.empty());
   CHECK(utf8(mainForm().txtItemnum.content()) == "1");
 }
 

@@ -89,3 +89,34 @@ TEST_CASE_FIXTURE(RangeFixture, "blocks that overlap their new place never smear
         CHECK(allCells() == expected);
       }
 }
+
+TEST_CASE_FIXTURE(RangeFixture, "a block higher than the cache is copied and moved") {
+  const auto times = [](std::size_t count, const char* key) { return std::vector<std::string>(count, key); };
+  for (const bool moves : {false, true}) {
+    CAPTURE(moves);
+    table(60, 0);
+    std::vector<std::string> expected = allCells();
+    play({"Right", "Shift+Down"});
+    play(times(19, "Down"));
+    play({"Enter", moves ? "Ctrl+Down" : "Down"});
+    REQUIRE_FALSE(ended());
+    play(times(30, "Down"));
+    play({"Enter"});
+    for (std::size_t i = 1; i <= 20; ++i) {
+      const std::string cell = "|N" + std::to_string(i) + "|", there = "|N" + std::to_string(i + 30) + "|";
+      expected[i + 29].replace(expected[i + 29].find(there), there.size(), cell);
+      if (moves) expected[i - 1].replace(expected[i - 1].find(cell), cell.size(), "||");
+    }
+    CHECK(allCells() == expected);
+    CHECK(rangeKind == 0);
+  }
+}
+
+TEST_CASE_FIXTURE(RangeFixture, "a place to move to that lies outside the cache is not stored as the row it shows") {
+  table(60, 0);
+  const std::vector<std::string> before = allCells();
+  play({"Ctrl+Down", "Up", "Up", "Up", "Alt+Up"});
+  play(std::vector<std::string>(25, "Up"));
+  play({"Enter", "Down", "Esc"});
+  CHECK(allCells() == before);
+}

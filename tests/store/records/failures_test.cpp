@@ -43,7 +43,7 @@ TEST_CASE("a file that became read-only is told once, then the mark stands for i
   CHECK(store.dialogs() == Dialogs{kReadOnly});
   CHECK(store.bytes("t.txt") == before);
 
-  REQUIRE(store.open("t.txt"));
+  edit(store);
   CHECK_FALSE(readOnlyMarkShown());
   CHECK_FALSE(flushRec());
   CHECK(store.dialogs() == Dialogs{kReadOnly});
@@ -62,6 +62,7 @@ TEST_CASE("a file that vanished is told once a move, and does not come back by i
   CHECK(store.dialogs() == Dialogs{kWriteError});
   for (int move = 0; move < 2; ++move) {
     loadCache(curRec);
+    setCell(currentRow(), 0, u"again");
     CHECK_FALSE(flushRec());
     CHECK(store.dialogs() == Dialogs{kWriteError});
   }
@@ -111,13 +112,13 @@ TEST_CASE("the read-only toggle asks, stores what was typed, and goes by the fil
                       u"編集中のﾌｧｲﾙを読み取り専用にセットします｡解除しない限り編集できません。"};
   const Dialog release = {u"書き込み禁止の解除", u"編集中の読み取り専用指定を解除します。"};
 
-  store.answerQuestions(false);
+  store.answerQuestions(kNo);
   toggleReadOnly();
   CHECK(store.dialogs() == Dialogs{set});
   CHECK_FALSE(tableIsReadOnly());
   CHECK_FALSE(refusedAsReadOnly());
 
-  store.answerQuestions(true);
+  store.answerQuestions(kYes);
   toggleReadOnly();
   CHECK(store.dialogs() == Dialogs{set});
   CHECK(tableIsReadOnly());

@@ -90,10 +90,10 @@ TEST_CASE(
       const Files left = filesOf(store);
       const bool isWhole = left == before || left == after;
       // Who says no keeps everything, and is asked again where the table is not whole.
-      store.answerQuestions(false);
+      store.answerQuestions(kNo);
       CHECK(store.open("t.txt") == isWhole);
       CHECK(filesOf(store) == left);
-      store.answerQuestions(true);
+      store.answerQuestions(kYes);
       REQUIRE(store.open("t.txt"));
       swaps += isWhole ? 0 : 1;
       CHECK(filesOf(store) == (isWhole ? left : after));
@@ -171,14 +171,14 @@ TEST_CASE("an interrupted swap of another table is offered when its neighbour op
   closeAll();
   const Files left = filesOf(store);
   store.table("u.txt", {4}, {"u"});
-  store.answerQuestions(false);
+  store.answerQuestions(kNo);
   REQUIRE(store.open("u.txt"));
   CHECK(store.dialogs().size() == 1);
   CHECK(run({What::insert, 0, 0, 0, 1}) == RewriteEnd::refused);
   CHECK(store.dialogs().size() == 2);
   CHECK(filesOf(store) == left);
   CHECK(store.bytes("u.txt") == record("u"));
-  store.answerQuestions(true);
+  store.answerQuestions(kYes);
   REQUIRE(run({What::insert, 0, 0, 0, 1}) == RewriteEnd::done);
   CHECK(filesOf(store) == after);
   CHECK(store.bytes("u.txt") == record("") + record("u"));
@@ -229,7 +229,7 @@ TEST_CASE("a prepared folder changes no file but those of the table") {
       prepare(row.data, row.items);
     }
     for (const std::string& name : row.links) fs::create_symlink(row.link, store.path("d/" + name));
-    store.answerQuestions(true);
+    store.answerQuestions(kYes);
     REQUIRE(store.open("d/t.txt"));
     CHECK(run({What::eraseItems, 1, 1}) == RewriteEnd::done);
     CHECK(writeKFile(docPath, docDrive));
