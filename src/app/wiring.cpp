@@ -8,8 +8,8 @@
 #include "files/start/help.h"
 #include "files/start/startscreen.h"
 #include "tablejobs/blocks/blocks.h"
-#include "tablejobs/sort/sortcommands.h"
 #include "tablejobs/replace/registerreplace.h"
+#include "tablejobs/sort/sortcommands.h"
 #include "voice/dialogs.h"
 #include "voice/narration.h"
 

@@ -103,6 +103,7 @@ void nextKeyRun(const SortRange& range, std::int32_t& start, std::int32_t& end, 
 
 bool sortByKeys(SortRange& range, const std::vector<SortKey>& keys, const SortGoesOn& goesOn) {
   std::int32_t start = range.first(), end = range.last();
+  if (start >= end) return true;
   for (std::size_t row = 0; row < keys.size(); ++row) {
     const SortKey& key = keys[row];
     if (row == 0) {
