@@ -7,6 +7,7 @@
 #include "files/picker/picker.h"
 #include "files/start/help.h"
 #include "files/start/startscreen.h"
+#include "stats/frame/registerframe.h"
 #include "tablejobs/blocks/blocks.h"
 #include "tablejobs/replace/registerreplace.h"
 #include "tablejobs/sort/sortcommands.h"
@@ -27,6 +28,7 @@ void wireProgram() {
   registerSorting();
   registerBlocks();
   registerReplacement();
+  registerAnalysisFrame();
   narrateMenus();
 }
 

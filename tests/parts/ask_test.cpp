@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "fixture.h"
+#include "files/files_fixture.h"
 #include "parts/ask/typed.h"
 #include "platform/forms/form.h"
 #include "store/table/table.h"
@@ -19,7 +19,7 @@ TEST_CASE("typed numbers are whole numbers or nothing") {
     CHECK_FALSE(typedNumber(wrong));
   CHECK_FALSE(typedWhole(u"2147483648", 0, 2147483647));
   CHECK_FALSE(typedVal(u"1e400"));
-  CHECK(typedVal(u"１２abc") == 12);
+  CHECK(typedVal(u"12abc") == 12);
   CHECK(typedLetter(u"ｂ", u"AB") == u'B');
 }
 
@@ -48,4 +48,16 @@ TEST_CASE("an item is asked until it is one; a wrong answer beeps and is named")
   user.run([&] { item = askItem({u"項目番号は", u"項目"}); });
   user.press("Esc");
   CHECK_FALSE(item);
+}
+
+TEST_CASE_FIXTURE(test::FilesFixture, "a number that nothing can hold ends no command that asks for one") {
+  edit(table(u"t"));
+  for (const char* command : {"mnuJUMP", "mnuHJ", "mnuLIMIT", "mnuIDAUTO", "mnuSPITEM", "mnuINSRECM", "mnuINH"}) {
+    CAPTURE(command);
+    play({"wait 1", std::string("menu ") + command});
+    if (screen().activeForm()->name() == u"frmTin") play({"key Ctrl+A", "commit 1e400", "key Enter"});
+    while (!ended() && screen().activeForm()->name() != u"Form1") play({"wait 1", "key Esc"});
+    REQUIRE_FALSE(ended());
+  }
+  CHECK(records() == 1);
 }

@@ -5,6 +5,7 @@
 #include "editor/main/commands.h"
 #include "editor/main/form1.h"
 #include "editor/main/inputbox.h"
+#include "parts/ask/typed.h"
 #include "parts/cells.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
@@ -57,7 +58,7 @@ void askInhibitTime() {
     host().beep();
     return;
   }
-  talkGap = std::clamp(val(answer), kShortestGap, kLongestGap);
+  talkGap = std::clamp(typedVal(answer).value_or(kLongestGap), kShortestGap, kLongestGap);
 }
 
 void readSpItemToo() {

@@ -6,6 +6,7 @@
 #include "editor/main/form1.h"
 #include "editor/main/state.h"
 #include "editor/show/showcell.h"
+#include "parts/ask/typed.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "platform/text/width.h"
@@ -31,7 +32,7 @@ void idAuto() {
   if (autoIdOn == 0) {
     autoIdOn = 1;
     const Text answer = talkAsk(u"ＩＤ項目は自動更新されます。初期値を入れて下さい。", u"ID番号の初期値", u"1");
-    const double first = answer.empty() ? 0 : val(toHalfWidth(answer));
+    const double first = answer.empty() ? 0 : typedVal(toHalfWidth(answer)).value_or(HUGE_VAL);
     const bool holdable = std::fabs(first) <= std::numeric_limits<float>::max();
     if (answer.empty() || !holdable) {
       autoIdOn = 0;

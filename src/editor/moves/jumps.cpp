@@ -8,6 +8,7 @@
 #include "editor/moves/commit.h"
 #include "editor/moves/moves.h"
 #include "editor/show/showcell.h"
+#include "parts/ask/typed.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "platform/text/width.h"
@@ -77,7 +78,8 @@ void goToNextRecordStart() {
 int targetOf(TextView answer, int from, int lowest, int highest) {
   const Text text = trimmed(toHalfWidth(answer));
   const bool relative = text.starts_with(u'+') || text.starts_with(u'-');
-  const double wanted = std::nearbyint(val(text)) + (relative ? from : 0);
+  const double wanted =
+      std::nearbyint(typedVal(text).value_or(text.starts_with(u'-') ? -HUGE_VAL : HUGE_VAL)) + (relative ? from : 0);
   return static_cast<int>(std::clamp<double>(wanted, lowest, std::max(lowest, highest)));
 }
 

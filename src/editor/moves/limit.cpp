@@ -2,6 +2,7 @@
 
 #include "editor/main/form1.h"
 #include "editor/main/state.h"
+#include "parts/ask/typed.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "platform/text/width.h"
@@ -49,7 +50,7 @@ void setLimit() {
         u"\r\n なおスペースｷｰ　又はＥｎｄｷｰを叩きますと字数制限時でも制限を一時解除出来ます。"
         u"\r\n再度CTRL+bで字数制限は解除されます。",
         u"データ入力字数制限", {});
-    const double wanted = val(toHalfWidth(answer));
+    const double wanted = typedVal(toHalfWidth(answer)).value_or(-1);
     if (answer.empty() || wanted == 0) return;
     if (wanted >= 1 && wanted <= kLongestLimit) {
       inputLimit = toInt16(wanted);

@@ -15,6 +15,7 @@
 #include "editor/ranges/rangeread.h"
 #include "editor/show/sheet.h"
 #include "editor/show/showcell.h"
+#include "parts/ask/typed.h"
 #include "platform/forms/routing.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
@@ -57,7 +58,7 @@ int questionOf(const KeyEvent& key, int otherwise) {
 
 // A typed corner; false when the table has none of that number.
 bool readCorner(const TextBox& box, std::int32_t lowest, std::int32_t highest, std::int32_t& corner) {
-  const double typed = val(box.content());
+  const double typed = typedVal(box.content()).value_or(-1);
   if (typed < lowest || typed > highest) return false;
   corner = static_cast<std::int32_t>(typed);
   return true;

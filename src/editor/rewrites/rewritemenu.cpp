@@ -5,6 +5,7 @@
 #include "editor/ranges/rangekeys.h"
 #include "editor/rewrites/rewrites.h"
 #include "editor/rewrites/widthform.h"
+#include "parts/ask/typed.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "platform/text/width.h"
@@ -66,7 +67,7 @@ void insertMany() {
   const Text answer = talkAsk(u"今の記録の前に、何記録挿入しますか？なおﾌｧｲﾙの長さに応じて時間がかかる場合があります。",
                               u"複数記録挿入", u"1");
   if (trimmed(answer).empty()) return;
-  const double count = val(toHalfWidth(answer));
+  const double count = typedVal(toHalfWidth(answer)).value_or(0);
   if (count < 1 || count > 999999 || count != static_cast<double>(static_cast<std::int32_t>(count)))
     return host().beep();
   insertAtCursor(static_cast<std::int32_t>(count));

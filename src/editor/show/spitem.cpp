@@ -3,6 +3,7 @@
 #include "editor/main/commands.h"
 #include "editor/main/form1.h"
 #include "editor/show/showcell.h"
+#include "parts/ask/typed.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "platform/text/width.h"
@@ -49,7 +50,7 @@ void switchSpItem() {
         u"\r\n項目番号を入力してください｡もう一度このﾒﾆｭｰを選ぶと解除されます｡",
         u"常時ﾃﾞｰﾀ表示項目の設定", decimal(curItem));
     if (trimmed(answer).empty()) return;
-    const double wanted = val(toHalfWidth(answer));
+    const double wanted = typedVal(toHalfWidth(answer)).value_or(-1);
     if (wanted < 0 || wanted > itemCount) {
       host().beep();
       return;

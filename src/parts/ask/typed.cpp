@@ -55,7 +55,7 @@ std::optional<char16_t> typedLetter(TextView typed, TextView letters) {
 
 std::optional<double> typedVal(TextView typed) {
   try {
-    return val(toHalfWidth(typed));
+    return val(typed);
   } catch (const Fault&) {
     return std::nullopt;
   }

@@ -21,7 +21,7 @@ std::optional<std::int16_t> typedItem(TextView typed, std::int16_t lowest = 0);
 // One of `letters` (capitals), in whatever case and width it was typed.
 std::optional<char16_t> typedLetter(TextView typed, TextView letters);
 
-// As val, for boxes that are read that way; nullopt where the number is beyond a double.
+// As val, for texts that are read that way, in the width they have; nullopt where the number is beyond a double.
 std::optional<double> typedVal(TextView typed);
 
 }  // namespace zelko

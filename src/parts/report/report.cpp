@@ -36,6 +36,7 @@ Text resultFile(TextView folder) {
 bool Report::open(TextView folder, bool anew) {
   path_ = resultFile(folder);
   failed_ = false;
+  written_ = 0;
   if (isFileOfTable(path_)) {
     tellFailure(u"このフォルダのKEKKA.TXTは、表のﾌｧｲﾙです。別のフォルダを指定してください", kTitle);
     return false;
@@ -46,6 +47,7 @@ bool Report::open(TextView folder, bool anew) {
 }
 
 void Report::line(TextView text) {
+  written_ += text.size() + 2;
   if (printLine(file_.number(), text) != FileError::none) failed_ = true;
 }
 

@@ -23,10 +23,13 @@ class Report {
   // False after a message where not all of it reached the file.
   bool close();
   const Text& path() const { return path_; }
+  // Characters of this report so far, its line ends too.
+  std::size_t written() const { return written_; }
 
  private:
   Text path_;
   OwnedFile file_;
+  std::size_t written_ = 0;
   bool failed_ = false;
 };
 

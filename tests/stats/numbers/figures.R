@@ -63,10 +63,6 @@ say <- function(name, call, f, tolerance = 1e-12, floor = 1e-3) {
 groups <- function(n) { i <- seq_len(n) - 1; list(a = factor(i %% 2), b = factor(i %/% 2 %% 3), c = factor(i %/% 6 %% 4)) }
 rows <- function(fit) { s <- anova(fit); c(s[["Sum Sq"]], s[["F value"]][seq_len(nrow(s) - 1)]) }
 
-say("spread", "n, sum(x), mean(x), sqrt(mean((x - mean(x))^2)), sd(x), min(x), max(x) of items 1 and 5", function(v, k1, k2) {
-  unlist(lapply(c(1, 5), function(j) { x <- v[, j]; c(length(x), x[1] * length(x) + sum(near(x)), mean(x),
-    sqrt(var(near(x)) * (length(x) - 1) / length(x)), sd(near(x)), min(x), max(x)) }))
-}, 1e-14)
 say("shape", "quantile(x, c(.25, .5, .75)), skewness; own and exact counts of 7 classes, edges as singles: floor((x - low) / width) + 1", function(v, k1, k2) {
   d <- near(v[, 3]) - mean(near(v[, 3]))
   x <- v[, 1]; half <- (max(x) - min(x)) / 7 / 2; low <- single(min(x) - half); high <- max(x) + half
@@ -111,58 +107,48 @@ say("eigen", "eigen(cor(v))$values, 1 - 1 / diag(solve(cor(v))), cor(x, y), cov(
   R <- cor(apply(v, 2, near))
   fault_if(kappa(R, exact = TRUE) > 1e13, c(eigen(R)$values, tryCatch(1 - 1 / diag(solve(R)), error = function(e) rep(NA, 6)), R[2, 1], cov(near(v[, 4]), near(v[, 3]))))
 }, 1e-7, 1)
-say("factor", "|loadings| of item 1 and of 4 cycles, varimax(A)$loadings: largest of each item, |score| of record 1, AA'", function(v, k1, k2) {
+say("factor", "|loadings| of item 1 and of 4 cycles, varimax(A)$loadings: largest of each item, |score| of record 1, AA', mahalanobis(v[1, ], v[2, ], cov(v))", function(v, k1, k2) {
   S <- apply(v, 2, near); R <- cor(S)
-  if (kappa(R, exact = TRUE) > 1e13) return(rep(NA, 13))
+  if (kappa(R, exact = TRUE) > 1e13) return(rep(NA, 14))
   h <- 1 - 1 / diag(solve(R)); m <- apply(abs(R - diag(6)), 1, max); e <- eigen(R - diag(1 - h))$values
-  if (min(-diff(e[1:3])) < 1e-3) return(rep(Inf, 13))
+  if (min(-diff(e[1:3])) < 1e-3) return(rep(Inf, 14))
   A <- factors(R, h, 1); B <- factors(R, m, 4); V <- varimax(A, eps = 1e-14)$loadings; F <- scale(S) %*% solve(R, A)
-  c(abs(A[1, ]), abs(B[1, ]), apply(abs(V), 1, max), if (kappa(R) > 1e8) c(Inf, Inf) else abs(F[1, ]), A[1, ] %*% A[2, ])
+  c(abs(A[1, ]), abs(B[1, ]), apply(abs(V), 1, max), if (kappa(R) > 1e8) c(Inf, Inf) else abs(F[1, ]), A[1, ] %*% A[2, ],
+    mahalanobis(S[1, ], S[2, ], cov(S), tol = 1e-30))
 }, 5e-5, 1)
-distances <- function(v) list(dist(v)^2, dist(scale(v))^2, dist(v, "manhattan"), dist(v, "minkowski", p = 3))
 say("distances", "object 1 to 2 and 7 to 3: dist(v)^2, dist(scale(v))^2, dist(v, 'manhattan'), dist(v, 'minkowski', p = 3)", function(v, k1, k2) {
   v <- apply(v, 2, near)
-  unlist(lapply(distances(v), function(d) as.matrix(d)[cbind(c(1, 7), c(2, 3))]))
+  unlist(lapply(list(dist(v)^2, dist(scale(v))^2, dist(v, "manhattan"), dist(v, "minkowski", p = 3)), function(d) as.matrix(d)[cbind(c(1, 7), c(2, 3))]))
 })
-say("mahalanobis", "mahalanobis(v[1, ], v[2, ], cov(v))", function(v, k1, k2) {
-  v <- apply(v, 2, near); S <- cov(v)
-  fault_if(kappa(cov2cor(S), exact = TRUE) > 1e13, mahalanobis(v[1, ], v[2, ], S, tol = 1e-30))
-}, 1e-5)
 say("cluster", "sum and largest of hclust(dist(scale(v))^2, method)$height, ward.D, agnes(method = 'flexible', par = .625); the first 20 objects", function(v, k1, k2) {
   v <- apply(v[1:20, ], 2, function(x) (near(x) - mean(near(x)))); v <- v[, apply(v, 2, sd) > 0, drop = FALSE]; d <- dist(scale(v))^2
   h <- lapply(c("single", "complete", "average", "centroid", "median", "ward.D"), function(m) hclust(d, m)$height)
   h[[7]] <- agnes(d, method = "flexible", par.method = .625)$height
   unlist(lapply(h, function(x) c(sum(x), max(x))))
 })
-say("oneway", "anova(lm(value ~ item)) of items 1 to 3; of columns that end 3 and 7 early", function(v, k1, k2) {
-  n <- nrow(v); x <- near(v[, 1:3]); g <- col(x); use <- row(x) <= n - c(0, 3, 7)[g]
-  c(rows(lm(x[TRUE] ~ factor(g))), rows(lm(x[use] ~ factor(g[use]))))
-})
-say("twoway", "anova(lm(value ~ column + row)) of items 1 to 4; of cells: own totals, or anova(lm(item 1 ~ a * b)) where equal", function(v, k1, k2) {
-  x <- near(v[, 1:4]); n <- nrow(v); g <- groups(n); y <- near(v[, 1])
+say("anova", "items 1 to 3 and columns that end 3 and 7 early: anova(lm(value ~ item)); items 1 to 4: anova(lm(value ~ column + row)); cells: own totals, or anova(lm(item 1 ~ a * b)) where equal; summary(aov(value ~ A * item + Error(subject)))", function(v, k1, k2) {
+  x <- near(v[, 1:4]); n <- nrow(v); g <- groups(n); y <- near(v[, 1]); item <- factor(col(x)); three <- col(x) < 4
   ss <- function(f) sum(tapply(y, f, function(z) sum(z)^2 / length(z)), na.rm = TRUE) - sum(y)^2 / n
   A <- ss(g$a); B <- ss(g$b); AB <- ss(interaction(g$a, g$b)) - A - B; E <- sum(resid(lm(y ~ g$a * g$b))^2)
   cells <- if (n %% 6 == 0) rows(lm(y ~ g$a * g$b)) else c(A, B, AB, E, c(A, B / 2, AB / 2) / (E / (n - 6)))
-  c(rows(lm(x[TRUE] ~ factor(col(x)) + factor(row(x)))), cells)
+  t <- summary(aov(x[TRUE] ~ rep(g$a, 4) * item + Error(factor(row(x))), subset = three)); b <- t[[1]][[1]]; w <- t[[2]][[1]]
+  c(rows(lm(x[three] ~ item[three])), rows(lm(x[TRUE] ~ item, subset = three & row(x) <= n - c(0, 3, 7, 0)[col(x)])),
+    rows(lm(x[TRUE] ~ item + factor(row(x)))), cells,
+    b[["Sum Sq"]][1], w[["Sum Sq"]][1:2], b[["Sum Sq"]][2], w[["Sum Sq"]][3], b[["F value"]][1], w[["F value"]][1:2])
 })
 say("threeway", "anova(lm(y ~ (a + b + c)^2)), anova(lm(y ~ a * b * c)) with c halved, and the ratios of subjects c, on 24 records", function(v, k1, k2) {
   y <- near(v[1:24, 2]); g <- groups(24); h <- factor((as.integer(g$c) - 1) %/% 2)
   one <- anova(lm(y ~ (g$a + g$b + g$c)^2)); MS <- one[["Mean Sq"]]
   c(rows(lm(y ~ (g$a + g$b + g$c)^2)), rows(lm(y ~ g$a * g$b * h)), MS[1] / MS[5], MS[2] / MS[6], MS[4] / MS[7])
 })
-say("nested", "summary(aov(value ~ A * B + Error(subject))): items 1 to 3 are B, A by turns", function(v, k1, k2) {
-  x <- near(v[, 1:3]); n <- nrow(v); A <- factor(rep(groups(n)$a, 3)); s <- factor(row(x)); B <- factor(col(x))
-  t <- summary(aov(x[TRUE] ~ A * B + Error(s))); b <- t[[1]][[1]]; w <- t[[2]][[1]]
-  c(b[["Sum Sq"]][1], w[["Sum Sq"]][1:2], b[["Sum Sq"]][2], w[["Sum Sq"]][3], b[["F value"]][1], w[["F value"]][1:2])
-})
 say("groups", "wilcox.test, CR; t.test(var.equal = TRUE), own SD ratio, var.test: items 1 and 2 of the first 20 records", function(v, k1, k2) {
   x <- near(c(v[1:20, 1], v[1:20, 2])); y <- x[21:40]; x <- x[1:20]; n <- 20
   W <- suppressWarnings(wilcox.test(x, y))$statistic; t <- t.test(x, y, var.equal = TRUE); s <- sort(c(sd(x), sd(y)))
   c(n * n - W, abs(n * n - W - 200) / sqrt(400 * 41 / 12), t$statistic, t$p.value, s[2] / s[1], (s[2] / s[1])^2, pf((s[2] / s[1])^2, 19, 19, lower = FALSE))
 })
-say("scores", "mean, SD, sum(floor(10 (x - M) / SD + 50)), level counts by findInterval; cor(item 2 above its median, item 3)", function(v, k1, k2) {
+say("scores", "n, sum, mean, SD, sd(x), min, max, sum(floor(10 (x - M) / SD + 50)), level counts by findInterval; cor(item 2 above its median, item 3)", function(v, k1, k2) {
   x <- v[, 1]; M <- mean(x); S <- sqrt(var(near(x)) * (length(x) - 1) / length(x)); right <- v[, 2] > median(v[, 2])
-  c(M, S, sum(floor(10 * (x - M) / S + 50)), tabulate(findInterval((x - M) / S, c(-1.5, -.5, .5, 1.5)) + 1, 5),
+  c(length(x), sum(x), M, S, sd(near(x)), min(x), max(x), sum(floor(10 * (x - M) / S + 50)), tabulate(findInterval((x - M) / S, c(-1.5, -.5, .5, 1.5)) + 1, 5),
     fault_if(sd(right) == 0, cor(right, near(v[, 3]))))
 })
 

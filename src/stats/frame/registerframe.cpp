@@ -1,0 +1,15 @@
+#include "stats/frame/registerframe.h"
+
+#include "platform/forms/form.h"
+#include "stats/frame/outputfolder.h"
+#include "stats/frame/resultviewer.h"
+#include "voice/narration.h"
+
+namespace zelko {
+
+void registerAnalysisFrame() {
+  registerForm<frmOUTF>();
+  registerResultViewer();
+}
+
+}  // namespace zelko

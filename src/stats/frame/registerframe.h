@@ -1,0 +1,8 @@
+// The forms and commands that all analyses share.
+#pragma once
+
+namespace zelko {
+
+void registerAnalysisFrame();
+
+}  // namespace zelko

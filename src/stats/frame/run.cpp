@@ -1,0 +1,132 @@
+#include "stats/frame/run.h"
+
+#include <algorithm>
+
+#include "parts/disk/filewords.h"
+#include "parts/reading/helpform.h"
+#include "parts/reading/textfile.h"
+#include "stats/frame/analysis.h"
+#include "stats/frame/outputfolder.h"
+#include "stats/frame/resultviewer.h"
+#include "stats/frame/savetext.h"
+#include "store/table/notice.h"
+#include "voice/dialogs.h"
+#include "voice/heard.h"
+#include "voice/talk.h"
+
+namespace zelko {
+
+namespace {
+
+constexpr TextView kStopped = u"強制終了!!";
+constexpr TextView kFinished = u"終了！結果ﾌｧｲﾙが表示されています.矢印ｷｰ操作で範囲部が読まれます。escで終了します";
+
+Text& lastFile() {
+  static Text path;
+  return path;
+}
+
+}  // namespace
+
+const Text& lastResultFile() { return lastFile(); }
+
+AnalysisRun::~AnalysisRun() {
+  if (!begun_) return;
+  try {
+    stop();
+  } catch (...) {
+    // A fault is on its way already; the report is closed by its owner.
+  }
+}
+
+bool AnalysisRun::begin(TextView folder, bool anew, TextView reportTitle) {
+  if (!report_.open(folder, anew)) return false;
+  begun_ = true;
+  report_.head(reportTitle);
+  return true;
+}
+
+bool AnalysisRun::begin(TextView reportTitle) { return begin(resultFolder(), resultIsNew(), reportTitle); }
+
+void AnalysisRun::compute(TextView work, std::int64_t steps) {
+  const Silence silence;
+  if (!windowOpen_) {
+    frmHelp& window = openReading({.caption = title_, .text = {}, .report = true});
+    window.setBusy(true);
+    window.show();
+    windowOpen_ = true;
+  }
+  progress_.reset();
+  progress_.emplace(work, steps);
+}
+
+bool AnalysisRun::step(std::int64_t done) {
+  if (progress_ && !progress_->step(done)) {
+    stopped_ = true;
+    analysisMode = u"BREAK";
+  }
+  return !stopped_;
+}
+
+void AnalysisRun::tell(TextView line) {
+  if (frmHelp* window = loadedForm<frmHelp>()) window->addLine(line);
+  talkGated(line);
+}
+
+void AnalysisRun::closeDialogs() {
+  const Silence silence;
+  progress_.reset();
+  if (windowOpen_) unload<frmHelp>();
+  windowOpen_ = false;
+}
+
+bool AnalysisRun::finish(Form& form, const Text& closing, bool repeats) {
+  begun_ = false;
+  closeDialogs();
+  analysisMode.clear();
+  if (!report_.close()) return false;
+  lastFile() = report_.path();
+  closeUnheard(form);
+  const Text said = closing.empty() ? title_ + Text(kFinished) : closing;
+  if (!repeats) {
+    waitPastGate();
+    showResultWindow(report_.path(), title_, said, report_.written());
+    return true;
+  }
+  {
+    const Silence silence;
+    showResultWindow(report_.path(), title_, {}, report_.written());
+  }
+  showRepeat(said);
+  return true;
+}
+
+void AnalysisRun::refuse() {
+  begun_ = false;
+  closeDialogs();
+  report_.close();
+}
+
+void AnalysisRun::stop() {
+  begun_ = false;
+  closeDialogs();
+  report_.line(kStopped);
+  report_.close();
+  analysisMode.clear();
+  talkBehindDialog(kStopped);
+}
+
+void showResultWindow(const Text& path, const Text& title, const Text& opening, std::size_t fromEnd) {
+  const auto text = readTextFile(path);
+  if (!text) return tellFailure(spokenName(path) + u"が読めません", u"KEKKA.TXT");
+  frmHelp& window = openReading({.caption = title,
+                                 .text = *text,
+                                 .report = true,
+                                 .opening = opening,
+                                 .save = [title](const Text& shown) { saveTextAs(shown, title + u".txt"); },
+                                 .showResults = [path] { showResultViewer(path); }});
+  window.RichTextBox1.setSelection(static_cast<int>(text->size() - std::min(text->size(), fromEnd)), 0);
+  window.show();
+}
+
+}  // namespace zelko
