@@ -45,11 +45,14 @@ std::string brokenRecords(const std::string& bytes) {
 bool isWorkFile(const std::string& name) { return name.ends_with(".QQQ") || name.ends_with(".$$$"); }
 
 bool isKnown(const std::string& name) {
-  static constexpr std::array<std::string_view, 9> names = {"ZLKCLip", "ZLKCLip.bak", "zlkTalk", "mAgent", "zlkHAHAKI",
-                                                            "zlkTEL",  "zlkPORT",     "KEKKA",   "EKKA"};
+  static constexpr std::array<std::string_view, 10> names = {
+      "ZLKCLip", "ZLKCLip.bak", "ZLKCLip.for", "zlkTalk", "mAgent", "zlkHAHAKI", "zlkTEL", "zlkPORT", "KEKKA", "EKKA"};
   if (std::find(names.begin(), names.end(), name) != names.end()) return true;
   return name.ends_with(".txt") || name.ends_with(".TXT");
 }
+
+// At the other levels less is said, and only what is asked for.
+constexpr int kUsualLevel = 2;
 
 bool mainFormIsFree() {
   const Form* form = screen().activeForm();
@@ -79,6 +82,7 @@ std::string stateOfUser() {
 void Rules::before(const std::string& line) {
   if (first_.empty()) first_ = filesHere();
   if (line.starts_with("step ")) burst_ = line == "step 0";
+  if (line == "menu mnuAGENT" || line == "menu mnuINH") otherVoice_ = true;
   line_ = line;
   place_ = placeOfFocus();
   state_ = stateOfUser();
@@ -99,7 +103,8 @@ std::string Rules::brokenByFiles() {
 
 std::string Rules::brokenBySilence() const {
   const bool menu = line_.starts_with("menu ");
-  if ((!menu && !line_.starts_with("key ")) || burst_ || talkMode == 0 || !heard_.empty()) return "";
+  if ((!menu && !line_.starts_with("key ")) || burst_ || otherVoice_ || talkMode != kUsualLevel || !heard_.empty())
+    return "";
   if (!menu && state_ == stateOfUser()) return "";
   return "silence: " + line_ + " at " + place_;
 }
