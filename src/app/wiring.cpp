@@ -7,6 +7,7 @@
 #include "files/picker/picker.h"
 #include "files/start/help.h"
 #include "files/start/startscreen.h"
+#include "stats/correlation/registercorrelation.h"
 #include "stats/frame/registerframe.h"
 #include "tablejobs/blocks/blocks.h"
 #include "tablejobs/replace/registerreplace.h"
@@ -29,6 +30,7 @@ void wireProgram() {
   registerBlocks();
   registerReplacement();
   registerAnalysisFrame();
+  registerCorrelation();
   narrateMenus();
 }
 
