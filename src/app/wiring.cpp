@@ -10,7 +10,9 @@
 #include "stats/correlation/registercorrelation.h"
 #include "stats/frame/registerframe.h"
 #include "tablejobs/blocks/blocks.h"
+#include "tablejobs/extract/form7.h"
 #include "tablejobs/replace/registerreplace.h"
+#include "tablejobs/search/search.h"
 #include "tablejobs/sort/sortcommands.h"
 #include "voice/dialogs.h"
 #include "voice/narration.h"
@@ -28,6 +30,8 @@ void wireProgram() {
   registerCsv();
   registerSorting();
   registerBlocks();
+  registerSearch();
+  registerExtraction();
   registerReplacement();
   registerAnalysisFrame();
   registerCorrelation();
