@@ -7,6 +7,7 @@
 #include "files/start/help.h"
 #include "files/start/startscreen.h"
 #include "stats/frame/registerframe.h"
+#include "stats/frequency/registerfrequency.h"
 #include "tablejobs/replace/registerreplace.h"
 #include "voice/dialogs.h"
 #include "voice/narration.h"
@@ -23,6 +24,7 @@ void wireProgram() {
   registerOutputFiles();
   registerReplacement();
   registerAnalysisFrame();
+  registerFrequency();
   narrateMenus();
 }
 
