@@ -6,6 +6,7 @@
 #include "files/picker/picker.h"
 #include "files/start/help.h"
 #include "files/start/startscreen.h"
+#include "stats/correlation/registercorrelation.h"
 #include "stats/frame/registerframe.h"
 #include "stats/frequency/registerfrequency.h"
 #include "tablejobs/replace/registerreplace.h"
@@ -25,6 +26,7 @@ void wireProgram() {
   registerReplacement();
   registerAnalysisFrame();
   registerFrequency();
+  registerCorrelation();
   narrateMenus();
 }
 

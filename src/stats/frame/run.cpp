@@ -39,6 +39,8 @@ void openResult(const Text& path, const Text& title, const Text& opening, const 
 
 }  // namespace
 
+Text finishedSentence(TextView title) { return Text(title) + Text(kFinished); }
+
 const Text& lastResultFile() { return lastFile(); }
 
 AnalysisRun::~AnalysisRun() {
@@ -53,7 +55,6 @@ AnalysisRun::~AnalysisRun() {
 bool AnalysisRun::begin(TextView folder, bool anew, TextView reportTitle) {
   if (!report_.open(folder, anew)) return false;
   begun_ = true;
-  reportTitle_ = reportTitle;
   report_.head(reportTitle);
   return true;
 }
@@ -90,6 +91,11 @@ void AnalysisRun::tell(TextView line) {
   talkGated(line);
 }
 
+void AnalysisRun::tellStep(TextView shown, TextView said) {
+  if (frmHelp* window = loadedForm<frmHelp>()) window->RichTextBox1.setText(shown);
+  talkGated(said);
+}
+
 void AnalysisRun::closeDialogs() {
   const Silence silence;
   progress_.reset();
@@ -104,7 +110,7 @@ bool AnalysisRun::finish(Form& form, const Text& closing, bool repeats) {
   if (!report_.close()) return false;
   lastFile() = report_.path();
   closeUnheard(form);
-  const Text said = closing.empty() ? reportTitle_ + Text(kFinished) : closing;
+  const Text said = closing.empty() ? finishedSentence(title_) : closing;
   if (!repeats) {
     waitPastGate();
     showWindow(said);

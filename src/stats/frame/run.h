@@ -35,9 +35,11 @@ class AnalysisRun {
   bool stopped() const { return stopped_; }
   // A line of progress: in the window, and said where the gate allows.
   void tell(TextView line);
+  // The same for one of very many steps: its line stands alone in the window, and what is said may differ from it.
+  void tellStep(TextView shown, TextView said);
 
   // Ends the run whose report is whole. The window shows the result file, the caret on this report; it has the focus.
-  // `closing` is said then, without one the title of the report and the sentence that all reports end with. With
+  // `closing` is said then, without one the sentence that all reports end with. With
   // `repeats` FrmRepeat stands in front first and repeats it. The form of the analysis goes, so that Esc in the window
   // leads to the cell. False, told, where the file was not written: the form stays.
   bool finish(Form& form, const Text& closing = {}, bool repeats = false);
@@ -50,12 +52,15 @@ class AnalysisRun {
   void closeDialogs();
   void showWindow(const Text& opening);
 
-  Text title_, reportTitle_;
+  Text title_;
   std::optional<Text> window_;  // what it shows where it differs from the file
   Report report_;
   std::optional<Progress> progress_;
   bool begun_ = false, stopped_ = false, windowOpen_ = false;
 };
+
+// "TITLE終了！結果ﾌｧｲﾙが表示されています…": how the closing sentence of a report begins or ends.
+Text finishedSentence(TextView title);
 
 // The result file that the last run wrote, for those who show it; empty before the first.
 const Text& lastResultFile();

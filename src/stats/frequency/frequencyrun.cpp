@@ -73,7 +73,7 @@ void reportFrequencies(Form& form, const std::vector<std::int16_t>& items, TextV
   if (!run.begin(folder, anew, kTitle)) return;
   analysisMode = u"SFCC";
   if (writeItems(run, items)) {
-    run.finish(form);
+    run.finish(form, finishedSentence(kTitle));
   } else {
     closeUnheard(form);
     run.stop();
