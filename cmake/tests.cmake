@@ -21,7 +21,7 @@ foreach(TEST ${TESTS})
     set_source_files_properties(${TEST} PROPERTIES COMPILE_DEFINITIONS ZELKO_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
   endif()
 endforeach()
-list(FILTER TESTS EXCLUDE REGEX "/tests/(desktop|speech|fuzz|caserunner|kill|store|walker)/")
+list(FILTER TESTS EXCLUDE REGEX "/tests/(desktop|speech|fuzz|caserunner|faults|store|walker)/")
 add_executable(zelko_tests ${TESTS})
 target_link_libraries(zelko_tests PRIVATE zelko_core zelko_test_options)
 target_precompile_headers(zelko_tests PRIVATE tests/precompiled.h)
@@ -48,12 +48,16 @@ if(TARGET zelko)
   endforeach()
 endif()
 
-# Sessions that write, killed before each write.
-add_executable(zelko_kill tests/kill/main.cpp)
+# Every job that writes, killed in front of its calls and with each of them failing: a sample here, all of them by hand
+# (tests/README.md).
+add_library(zelko_file_calls MODULE tests/faults/preload.cpp tests/store/rewrite/file_calls.cpp)
+target_include_directories(zelko_file_calls PRIVATE tests)
+target_link_libraries(zelko_file_calls PRIVATE zelko_warnings ${CMAKE_DL_LIBS})
+add_executable(zelko_faults tests/faults/main.cpp tests/faults/jobs.cpp)
+target_include_directories(zelko_faults PRIVATE tests)
+target_link_libraries(zelko_faults PRIVATE zelko_warnings)
 if(TARGET zelko)
-  foreach(CASE_NAME an-edited-table record-inserted-and-deleted design-widths-rewritten)
-    add_test(NAME kill/${CASE_NAME} COMMAND zelko_kill $<TARGET_FILE:zelko> ${CMAKE_SOURCE_DIR}/tests/cases/${CASE_NAME})
-  endforeach()
+  add_test(NAME faults COMMAND zelko_faults $<TARGET_FILE:zelko> $<TARGET_FILE:zelko_file_calls> --every 29)
 endif()
 
 # A user at random: tests/walker/main.cpp says how.

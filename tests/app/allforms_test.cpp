@@ -1,34 +1,35 @@
-// A walk over every form that the program registers: no control of any of them may be silent. A form that is built
-// later is on the list by being registered.
+// Every form in every job that it has: as a user opens it, through each entry of the menu that is served, and by itself
+// where no entry leads to it. No control of any of them may be silent. What is built later is on the list by being
+// registered.
 #include <doctest/doctest.h>
 
 #include <algorithm>
 #include <set>
 
-#include "app/wiring.h"
-#include "editor/main/state.h"
-#include "editor/show/view.h"
-#include "fixture.h"
+#include "editor/main/commands.h"
+#include "editor/main/menutable.h"
 #include "platform/forms/form.h"
-#include "store/table/cursor.h"
+#include "session.h"
 #include "store/table/table.h"
 #include "voice/talk.h"
 
 using namespace zelko;
+using namespace zelko::test;
 
 namespace {
 
-// The forms by name, each once: the fixtures of other tests register some of them again.
-std::vector<FormType> allForms() {
-  static const bool wired = (wireProgram(), true);
-  (void)wired;
-  std::vector<FormType> types;
-  for (const FormType& type : formTypes()) {
-    const auto same = [&](const FormType& other) { return other.name == type.name; };
-    if (std::none_of(types.begin(), types.end(), same)) types.push_back(type);
-  }
-  return types;
-}
+// How a form comes to be there: by a line of a script at the editor, or (an empty line) loaded by its name.
+struct Job {
+  std::string line;
+  const FormType* type = nullptr;
+  std::string name() const { return type ? toUtf8(type->name) : line; }
+};
+
+// Commands that no row of the menu names, for keys and other forms run them.
+constexpr TextView kElsewhere[] = {u"widenItem", u"narrowItem", u"CVZLKF", u"SVCread"};
+
+// Forms that have a say only in a state that a key brings about, and those that several keys lead to.
+constexpr const char* kKeys[] = {"key Shift+Down"};
 
 // What a caller would put into the labels before it shows the form.
 void giveWords(Form& form) {
@@ -38,34 +39,35 @@ void giveWords(Form& form) {
 }
 
 // One form in front of a user who edits a small table.
-class Walk : public Fixture {
+class Walk : public Session {
  public:
-  explicit Walk(const FormType& type) : type_(type) {
-    resetTable();
-    resetCursor();
-    resetEditor();
-    resetTalk();
-    appDir = fromUtf8(folder().string()) + u"/";
-    const Text table = makeTable(u"t", {{u"ID", 4}, {u"氏名", 8}, {u"点", 4, u'R'}}, {{u"1", u"東", u"80"}});
-    talkMode = 2;
-    run([&] { REQUIRE(openAndEnter(table)); });
+  explicit Walk(const Job& job) {
+    open({{u"ID", 4}, {u"氏名", 8}, {u"点", 4, u'R'}}, {{u"1", u"東", u"80"}, {u"2", u"西", u"7"}});
     play("wait 1");
-    if (type_.name != u"Form1") events();
-    // The start screen begins everything anew, so it comes first by itself; speech is switched on again behind it.
-    open();
+    events();
+    if (job.type) {
+      show(*job.type);
+    } else {
+      play(job.line);
+    }
+    // The start screen begins everything anew: speech is switched on again behind it.
     talkMode = 2;
+    if (ended()) return;
     play("wait 3");  // timers have spoken
     spokeAtOpening = spoke();
+    if (Form* active = screen().activeForm(); active && (job.type || active->name() != u"Form1"))
+      shown = active->name();
   }
 
-  // The form while it is the active one.
+  Text shown;  // the form that the job opened; empty where it opened none
+  bool spokeAtOpening = false;
+
+  // That form while it is the active one.
   Form* form() const {
     Form* active = ended() ? nullptr : screen().activeForm();
-    return active && active->name() == type_.name ? active : nullptr;
+    return active && active->name() == shown ? active : nullptr;
   }
   Control* focus() const { return form() ? form()->activeControl() : nullptr; }
-
-  bool spokeAtOpening = false;
   bool speaksAt(const std::string& key) {
     events();
     press(key);
@@ -78,11 +80,9 @@ class Walk : public Fixture {
   }
 
  private:
-  // As a key opens it where the form has a say only in a state that the key brings about; else by itself.
-  void open() {
-    if (type_.name == u"frmHANI") return press("Shift+Down");
+  void show(const FormType& type) {
     run([&] {
-      Form& form = type_.load();
+      Form& form = type.load();
       giveWords(form);
       form.show();
     });
@@ -93,8 +93,6 @@ class Walk : public Fixture {
       return line.starts_with("say ") && line.find_first_not_of(' ', 4) != std::string::npos;
     });
   }
-
-  FormType type_;
 };
 
 std::set<Control*> controlsOfTab(const Form& form) {
@@ -129,28 +127,61 @@ void walkControls(Walk& walk) {
   if (wanted.size() > 1) CHECK(walk.speaksAt("Shift+Tab"));
 }
 
+void walkForm(const Job& job) {
+  Walk walk(job);
+  if (!walk.form()) return;
+  CAPTURE(toUtf8(walk.shown));
+  for (const char* key : {"Shift+Ctrl+A", "Alt+N", "Alt+M"}) {
+    CAPTURE(key);
+    CHECK(walk.speaksAt(key));
+  }
+  if (!walk.focus()) return;
+  CHECK((walk.spokeAtOpening || job.name() == "Form1"));  // which was there before
+  walkControls(walk);
+}
+
+void leave(const Job& job) {
+  Walk walk(job);
+  // Esc stops the work of the progress dialog, and the work says so.
+  if (!walk.form() || walk.shown == u"frmDOE") return;
+  CAPTURE(toUtf8(walk.shown));
+  CHECK((walk.answersAt("Esc") || !walk.form()));
+}
+
+std::vector<Job> allJobs() {
+  Session wiresTheProgram;
+  std::vector<Job> jobs;
+  for (const char* key : kKeys) jobs.push_back({key});
+  for (const MenuRow& row : menuRows()) {
+    if (commandOf(row.name)) jobs.push_back({"menu " + toUtf8(row.name)});
+  }
+  for (const FormType& type : formTypes()) {
+    if (type.name != u"frmHANI") jobs.push_back({"", &type});
+  }
+  return jobs;
+}
+
 }  // namespace
 
-TEST_CASE("no control of any form is silent, and Tab reaches all of them") {
-  for (const FormType& type : allForms()) {
-    CAPTURE(toUtf8(type.name));
-    Walk walk(type);
-    REQUIRE(walk.form());
-    for (const char* key : {"Shift+Ctrl+A", "Alt+N", "Alt+M"}) {
-      CAPTURE(key);
-      CHECK(walk.speaksAt(key));
-    }
-    if (!walk.focus()) continue;
-    CHECK(walk.spokeAtOpening);
-    walkControls(walk);
+TEST_CASE("no control of any form is silent in any of its jobs, and Tab reaches all of them; Esc leaves or speaks") {
+  for (const Job& job : allJobs()) {
+    CAPTURE(job.name());
+    walkForm(job);
+    leave(job);
   }
 }
 
-TEST_CASE("Esc leaves every form, or says something") {
-  for (const FormType& type : allForms()) {
+TEST_CASE("every form can be reached, and every registered command is a row of the menu or a listed job") {
+  std::set<Text> reached, rows;
+  for (const Job& job : allJobs()) reached.insert(Walk(job).shown);
+  for (const FormType& type : formTypes()) {
     CAPTURE(toUtf8(type.name));
-    if (type.name == u"frmDOE") continue;  // Esc stops the work, and the work says so
-    Walk walk(type);
-    CHECK((walk.answersAt("Esc") || !walk.form()));
+    CHECK(reached.contains(type.name));
+  }
+  for (const MenuRow& row : menuRows()) rows.insert(Text(row.name));
+  for (const TextView other : kElsewhere) rows.insert(Text(other));
+  for (const Text& command : commandNames()) {
+    CAPTURE(toUtf8(command));
+    CHECK(rows.contains(command));
   }
 }

@@ -1,12 +1,5 @@
 #include "editor/editor_fixture.h"
 
-#include "editor/main/state.h"
-#include "editor/registereditor.h"
-#include "editor/show/view.h"
-#include "store/table/cursor.h"
-#include "store/table/table.h"
-#include "voice/talk.h"
-
 namespace zelko::test {
 namespace {
 
@@ -17,22 +10,6 @@ std::string scriptLine(const std::string& action) {
 }
 
 }  // namespace
-
-EditorFixture::EditorFixture() {
-  resetTable();
-  resetCursor();
-  resetEditor();
-  resetTalk();
-  appDir = fromUtf8(folder().string()) + u"/";
-  registerEditor();
-}
-
-void EditorFixture::open(const std::vector<ItemOfTable>& items, const Rows& rows, int level) {
-  Text name = makeTable(u"t", items, rows);
-  talkMode = static_cast<std::int16_t>(level);
-  run([name] { REQUIRE(openAndEnter(name)); });
-  heard();
-}
 
 Heard EditorFixture::play(const std::vector<std::string>& actions) {
   for (const std::string& action : actions) Fixture::play(scriptLine(action));

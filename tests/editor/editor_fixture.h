@@ -1,35 +1,25 @@
 // A user at the editor: a table made in the test, keys pressed, every sentence heard.
 #pragma once
 
-#include <doctest/doctest.h>
-
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "editor/main/form1.h"
-#include "fixture.h"
+#include "session.h"
 
 namespace zelko::test {
 
 using Heard = std::vector<std::string>;  // "say …" and "beep"
-using Rows = std::vector<std::vector<Text>>;
 
-class EditorFixture : public Fixture {
+class EditorFixture : public Session {
  public:
-  EditorFixture();
-
-  // Makes the table "t" in the test's folder and enters the editor at the given speech level. What is heard meanwhile
-  // is forgotten.
-  void open(const std::vector<ItemOfTable>& items, const Rows& rows, int level = 2);
   // Key names, "type …", "commit …", "menu …" and "focus" with a control of the main form, a second before each. Gives
   // what was heard, in its order.
   Heard play(const std::vector<std::string>& actions);
   Heard heard();
 
   std::string record(int number) const { return toUtf8(Fixture::record(number)); }
-  std::string path(std::string_view name) const { return (folder() / name).string(); }
-  std::string file(std::string_view name) const { return readBytes(folder() / name); }
   static constexpr std::string_view kTable = "t.txt";
 };
 

@@ -1,50 +1,11 @@
 #include "files/files_fixture.h"
 
-#include "editor/main/state.h"
-#include "editor/registereditor.h"
-#include "editor/show/view.h"
-#include "files/design/design.h"
-#include "files/output/output.h"
 #include "files/picker/picker.h"
-#include "files/start/help.h"
-#include "store/table/cursor.h"
 #include "store/table/table.h"
-#include "voice/talk.h"
 
 namespace zelko::test {
 
-namespace {
-
-void registerOnce() {
-  static const bool done = [] {
-    registerEditor();
-    registerFilePicker();
-    registerHelp();
-    registerTableDesign();
-    registerOutputFiles();
-    return true;
-  }();
-  (void)done;
-}
-
-}  // namespace
-
-FilesFixture::FilesFixture() {
-  registerOnce();
-  resetTable();
-  resetCursor();
-  resetEditor();
-  resetTalk();
-  talkMode = 2;
-  appDir = fromUtf8(folder().string()) + u"/";
-}
-
 Text FilesFixture::table(TextView name) { return makeTable(name, {{u"ID", 4}, {u"氏名", 20}}, {{u"1", Text(name)}}); }
-
-void FilesFixture::edit(const Text& dataFile) {
-  run([&] { REQUIRE(openAndEnter(dataFile)); });
-  heard();
-}
 
 void FilesFixture::pick(PickFor purpose) {
   Fixture::play("wait 1");

@@ -1,6 +1,6 @@
 // A user at random: walks on random tables, each in a process of its own, until so many actions or seconds are over.
 //   zelko_walker [--actions N | --seconds N] [--seed N] [--out FOLDER] [--finds N]
-// A find ends its walk, is cut down to the few lines that still bring it about, and becomes FOLDER/<n>: find.txt,
+// A find ends its walk, is cut down to the few lines that still bring it about, and becomes FOLDER/<n>:
 // script.txt and before/, to be played with
 //   zelko --replay script.txt --dir before t.txt
 // A million actions: zelko_walker --actions 1000000. The exit status is 1 where something was found.

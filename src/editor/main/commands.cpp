@@ -22,6 +22,12 @@ const std::function<void()>& commandOf(TextView menuName) {
   return found == table().end() ? none : found->second;
 }
 
+std::vector<Text> commandNames() {
+  std::vector<Text> names;
+  for (const auto& [name, command] : table()) names.push_back(name);
+  return names;
+}
+
 void runCommand(TextView menuName) {
   // A copy: a command may register another in its place while it runs.
   std::function<void()> command = commandOf(menuName);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
 #include "platform/text/text.h"
 
@@ -11,6 +12,8 @@ namespace zelko {
 void registerCommand(TextView menuName, std::function<void()> command);
 // What serves the entry; empty where nobody does.
 const std::function<void()>& commandOf(TextView menuName);
+// The names of all that are served.
+std::vector<Text> commandNames();
 // Runs what serves the entry; a beep where nobody does.
 void runCommand(TextView menuName);
 

@@ -1,16 +1,13 @@
 #include "editor/clip/clip_session.h"
 
-#include "editor/formulas/formulaform.h"
 #include "editor/main/state.h"
 #include "editor/moves/moves.h"
-#include "editor/registereditor.h"
 #include "editor/show/view.h"
 #include "platform/files/files.h"
 #include "platform/text/sjis.h"
 #include "store/records/records.h"
 #include "store/table/cursor.h"
 #include "store/table/itemfile.h"
-#include "voice/talk.h"
 
 namespace zelko::test {
 
@@ -25,22 +22,8 @@ std::string replaced(std::string text, std::string_view what, std::string_view w
 }  // namespace
 
 ClipSession::ClipSession() {
-  run([this] {
-    static const bool wired = (registerEditor(), true);
-    (void)wired;
-    resetTable();
-    resetCursor();
-    resetEditor();
-    resetTalk();
-    formulaSlot.fill({});
-    appDir = fromUtf8(folder().string()) + u"/";
-    talkMode = 1;
-    openAndEnter(
-        makeTable(u"t", {{u"ID", 3}, {u"名", 6}, {u"点", 4, u'R'}, {u"注", 5}},
-                  {{u"1", u"太郎", u"12", u"abcde"}, {u"2", u"花子", u"7", u"f"}, {u"3", u"次郎", u"100", u""}}));
-  });
-  said();
-  (void)events();
+  open({{u"ID", 3}, {u"名", 6}, {u"点", 4, u'R'}, {u"注", 5}},
+       {{u"1", u"太郎", u"12", u"abcde"}, {u"2", u"花子", u"7", u"f"}, {u"3", u"次郎", u"100", u""}}, 1);
 }
 
 void ClipSession::select(std::int16_t kind, std::int32_t rec1, std::int32_t rec2, std::int16_t item1,

@@ -1,20 +1,18 @@
 // A user at a small table with the commands of the clip file and of the formulas at hand.
 #pragma once
 
-#include <doctest/doctest.h>
-
 #include <filesystem>
 #include <functional>
 #include <string>
 #include <vector>
 
-#include "fixture.h"
 #include "platform/text/text.h"
+#include "session.h"
 
 namespace zelko::test {
 
 // Three records of an ID, a name, a right-justified number and a remark, read by ear at level 1.
-struct ClipSession : Fixture {
+struct ClipSession : Session {
   ClipSession();
 
   void select(std::int16_t kind, std::int32_t rec1, std::int32_t rec2, std::int16_t item1, std::int16_t item2);

@@ -7,40 +7,27 @@
 #include <filesystem>
 
 #include "editor/main/state.h"
-#include "editor/registereditor.h"
 #include "editor/show/spitem.h"
 #include "editor/show/view.h"
-#include "fixture.h"
 #include "platform/files/files.h"
+#include "session.h"
 #include "store/records/records.h"
 #include "store/table/cursor.h"
 #include "store/table/itemfile.h"
 #include "voice/talk.h"
 
 using namespace zelko;
+using namespace zelko::test;
 
 namespace {
 
 namespace fs = std::filesystem;
 
 // Three records, of an ID, a name, a right-justified number and a remark.
-struct Session : Fixture {
-  Session() {
-    run([this] {
-      static const bool wired = (registerEditor(), true);
-      (void)wired;
-      resetTable();
-      resetCursor();
-      resetEditor();
-      resetTalk();
-      appDir = fromUtf8(folder().string()) + u"/";
-      talkMode = 1;
-      const Text table =
-          makeTable(u"t", {{u"ID", 3}, {u"名", 6}, {u"点", 4, u'R'}, {u"注", 5}},
-                    {{u"1", u"太郎", u"12", u"abcde"}, {u"2", u"花子", u"7", u"f"}, {u"3", u"次郎", u"100", u""}});
-      openAndEnter(table);
-    });
-    said();
+struct RewriteSession : Session {
+  RewriteSession() {
+    open({{u"ID", 3}, {u"名", 6}, {u"点", 4, u'R'}, {u"注", 5}},
+         {{u"1", u"太郎", u"12", u"abcde"}, {u"2", u"花子", u"7", u"f"}, {u"3", u"次郎", u"100", u""}}, 1);
     before = bytes();
   }
 
@@ -69,7 +56,7 @@ bool contains(const std::string& text, std::string_view part) { return text.find
 
 }  // namespace
 
-TEST_CASE_FIXTURE(Session, "the always-displayed item and the entry items stay with their items") {
+TEST_CASE_FIXTURE(RewriteSession, "the always-displayed item and the entry items stay with their items") {
   run([] {
     spItem = 3;
     entryItem[2] = 1;
@@ -86,7 +73,7 @@ TEST_CASE_FIXTURE(Session, "the always-displayed item and the entry items stay w
   CHECK(allItemsOn == 1);
 }
 
-TEST_CASE_FIXTURE(Session, "what has no sense is a beep and leaves the table") {
+TEST_CASE_FIXTURE(RewriteSession, "what has no sense is a beep and leaves the table") {
   (void)events();
   const std::function<bool()> senseless[] = {
       [] { return deleteItems(0, 0); },
@@ -109,7 +96,7 @@ TEST_CASE_FIXTURE(Session, "what has no sense is a beep and leaves the table") {
   CHECK(bytes() == before);
 }
 
-TEST_CASE_FIXTURE(Session, "Esc at any record stops: the table whole, no work file, the keys live again") {
+TEST_CASE_FIXTURE(RewriteSession, "Esc at any record stops: the table whole, no work file, the keys live again") {
   struct Row {
     std::function<bool()> command;
     int passes;
@@ -137,7 +124,7 @@ TEST_CASE_FIXTURE(Session, "Esc at any record stops: the table whole, no work fi
   CHECK(itemWidthLoaded[3] == 7);
 }
 
-TEST_CASE_FIXTURE(Session, "a file that cannot be made is told, and the table is as it was") {
+TEST_CASE_FIXTURE(RewriteSession, "a file that cannot be made is told, and the table is as it was") {
   for (const char* inTheWay : {"WORK.QQQ", "KWORK.QQQ"}) {
     fs::create_directory(folder() / inTheWay);
     (void)said();
@@ -163,7 +150,8 @@ TEST_CASE_FIXTURE(Session, "a file that cannot be made is told, and the table is
   CHECK_FALSE(fs::exists(folder() / "ZLKCLip"));
 }
 
-TEST_CASE_FIXTURE(Session, "menu entries work on the record of the cursor, and ask what the key on a range asks") {
+TEST_CASE_FIXTURE(RewriteSession,
+                  "menu entries work on the record of the cursor, and ask what the key on a range asks") {
   press("Down");
   said();
   menu("mnuKILLREC1");

@@ -13,15 +13,33 @@ namespace zelko::test {
 
 namespace {
 
-int calls = 0, fatal = 0, failing = 0, failure = 0;
+struct Fault {
+  int fatal = 0, failing = 0, failure = 0, shortWrite = 0;
+  bool stays = false;
+} fault;
+int calls = 0, readings = 0, failingRead = 0;
+
+bool cannotRead() {
+  if (++readings != failingRead) return false;
+  errno = EIO;
+  return true;
+}
 
 // True where the call has to fail.
-bool stumbles() {
+bool stumbles(bool writes = false) {
   ++calls;
-  if (calls == fatal) _exit(kKilled);
-  if (calls != failing) return false;
-  errno = failure;
+  if (calls == fault.fatal) _exit(kKilled);
+  const bool isLater = fault.stays && writes && fault.failing > 0 && calls > fault.failing;
+  if (calls != fault.failing && !isLater) return false;
+  errno = fault.failure;
   return true;
+}
+
+// How much of a write reaches the file.
+size_t reaching(size_t size) {
+  if (fault.shortWrite == 0 || calls < fault.shortWrite || size < 2) return size;
+  fault = {0, calls + 1, ENOSPC, 0, true};
+  return size / 2;
 }
 
 template <class F>
@@ -29,21 +47,27 @@ F* real(const char* name) {
   return reinterpret_cast<F*>(dlsym(RTLD_NEXT, name));
 }
 
+void begin(const Fault& next) {
+  calls = readings = failingRead = 0;
+  fault = next;
+}
+
 }  // namespace
 
-void dieAtCall(int number) {
-  calls = failing = 0;
-  fatal = number;
-}
+void dieAtCall(int number) { begin({number, 0, 0, 0, false}); }
+void failAtCall(int number, int error) { begin({0, number, error, 0, false}); }
+void failFromCall(int number, int error) { begin({0, number, error, 0, true}); }
+void fallShortAtCall(int number) { begin({0, 0, 0, number, false}); }
 
-void failAtCall(int number, int error) {
-  calls = fatal = 0;
-  failing = number;
-  failure = error;
+void failAtRead(int number) {
+  begin({});
+  failingRead = number;
 }
+int reads() { return readings; }
 
 int stopCounting() {
-  fatal = failing = 0;
+  fault = {};
+  failingRead = 0;
   return calls;
 }
 
@@ -52,6 +76,8 @@ int stopCounting() {
 // The program's calls find these before those of the system.
 extern "C" {
 
+using zelko::test::cannotRead;
+using zelko::test::reaching;
 using zelko::test::real;
 using zelko::test::stumbles;
 
@@ -63,19 +89,32 @@ int open(const char* name, int flags, ...) {
     mode = va_arg(rest, mode_t);
     va_end(rest);
   }
-  return stumbles() ? -1 : real<int(const char*, int, ...)>("open")(name, flags, mode);
+  return stumbles((flags & O_CREAT) != 0) ? -1 : real<int(const char*, int, ...)>("open")(name, flags, mode);
+}
+
+ssize_t read(int file, void* bytes, size_t size) {
+  return cannotRead() ? -1 : real<ssize_t(int, void*, size_t)>("read")(file, bytes, size);
+}
+
+ssize_t pread(int file, void* bytes, size_t size, off_t place) {
+  return cannotRead() ? -1 : real<ssize_t(int, void*, size_t, off_t)>("pread")(file, bytes, size, place);
 }
 
 ssize_t write(int file, const void* bytes, size_t size) {
-  return stumbles() ? -1 : real<ssize_t(int, const void*, size_t)>("write")(file, bytes, size);
+  return stumbles(true) ? -1 : real<ssize_t(int, const void*, size_t)>("write")(file, bytes, reaching(size));
 }
 
 ssize_t pwrite(int file, const void* bytes, size_t size, off_t place) {
-  return stumbles() ? -1 : real<ssize_t(int, const void*, size_t, off_t)>("pwrite")(file, bytes, size, place);
+  return stumbles(true) ? -1
+                        : real<ssize_t(int, const void*, size_t, off_t)>("pwrite")(file, bytes, reaching(size), place);
 }
 
 int ftruncate(int file, off_t length) noexcept {
   return stumbles() ? -1 : real<int(int, off_t)>("ftruncate")(file, length);
+}
+
+int truncate(const char* name, off_t length) noexcept {
+  return stumbles() ? -1 : real<int(const char*, off_t)>("truncate")(name, length);
 }
 
 int fdatasync(int file) { return stumbles() ? -1 : real<int(int)>("fdatasync")(file); }

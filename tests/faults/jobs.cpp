@@ -1,0 +1,65 @@
+#include "faults/jobs.h"
+
+namespace zelko::test {
+
+const std::vector<Job> kJobs = {
+    {"type-cells", Holds::records, "key Right\ntype abc\nkey Enter\ntype 7\nkey Enter\nkey Down\ncommit xy\nkey Down"},
+    {"new-record", Holds::records, "key Ctrl+PageDown\ntype 9\nkey Enter\ntype new\n# job\nkey Up"},
+    {"name-and-memo", Holds::whole,
+     "key Right\nfocus Form1.RichTextBox2\ncommit N\nfocus Form1.txtinputbox\nfocus Form1.RichTextBox1\ncommit M\n"
+     "focus Form1.txtinputbox"},
+    {"realign-item", Holds::whole, "key Right\nfocus Form1.txtLR\ntype R\nfocus Form1.txtinputbox"},
+    {"insert-record", Holds::whole, "key Down\n# job\nmenu mnuINSREC1\nwait 2"},
+    {"delete-records", Holds::whole,
+     "key Down\nkey Alt+Down\nkey Down\nkey Enter\n# job\nmenu menuRKILL\nkey Y\nwait 2"},
+    {"move-records", Holds::whole,
+     "key Down\nkey Alt+Down\nkey Down\nkey Enter\nkey Down\nkey Down\nkey Enter\nwait 2"},
+    {"insert-item", Holds::whole, "key Right\n# job\nmenu mnuINSITEM\nkey Y\nwait 2"},
+    {"delete-item", Holds::whole, "key Right\nkey Right\n# job\nmenu mnuKILLITEM\nkey Y\nwait 2"},
+    {"move-items", Holds::whole, "key Right\nkey Alt+Right\nkey Enter\nkey Right\nkey Right\nkey Enter\nwait 2"},
+    {"change-width", Holds::whole, "key Right\nkey Right\n# job\nkey Ctrl+Space\nkey Enter\nwait 2"},
+    {"design-rewritten", Holds::whole,
+     "wait 1\nkey F5\nkey Down\nkey Enter\nkey Enter\ntype 10\nkey Enter\nfocus frmDESIGN.Command1\nkey Enter\nkey "
+     "Y\nwait 2"},
+    {"clear-block", Holds::records,
+     "key Right\nkey Shift+Down\nkey Down\nkey Right\nkey Enter\n# job\nmenu mnuZDEL\nkey Y\nwait 2"},
+    {"copy-to-clip", Holds::whole, "key Right\nkey Shift+Down\nkey Down\nkey Right\nkey Ctrl+Insert\nwait 2"},
+    {"paste-over", Holds::records, "key Down\nkey Right\n# job\nkey Ctrl+O\nwait 2"},
+    {"paste-at-end", Holds::records, "key Ctrl+PageDown\n# job\nkey Ctrl+O\nwait 2"},
+    {"paste-insert", Holds::records, "key Down\n# job\nkey Ctrl+Y\nwait 2", "",
+     "key Down\nmenu mnuINSREC1\nwait 2\nmenu mnuINSREC1\nwait 2"},
+    {"paste-undone", Holds::records, "key Down\nkey Right\nkey Ctrl+O\nwait 2\nkey Ctrl+I\nkey Y\nwait 2"},
+    {"move-cells", Holds::records,
+     "key Right\nkey Shift+Down\nkey Down\nkey Enter\nkey Ctrl+Down\nkey Down\nkey Down\nkey Enter\nwait 2"},
+    {"save-as", Holds::whole, "wait 1\n# job\nmenu mnuRESAS\nwait 20\ncommit new.txt\nkey Enter\nwait 2\nkey Y",
+     "new.txt"},
+    {"save-behind", Holds::whole, "wait 1\nmenu mnuRESAS\nwait 20\ncommit u.txt\nkey Enter\nwait 2\nkey Y", "u.txt"},
+    {"lock-and-release", Holds::records,
+     "type x\nkey Enter\nmenu mnuFbt\nkey Y\nwait 2\nmenu mnuFbt\nkey Y\nwait 2\ntype y\nkey Enter\nkey Down"},
+    {"leave", Holds::records, "type x\nkey Enter\nmenu mnuEND"},
+};
+
+namespace {
+
+std::string record(const std::string& cells) { return cells + std::string(254 - cells.size(), ' ') + "\r\n"; }
+
+}  // namespace
+
+std::vector<std::pair<std::string, std::string>> filesBefore() {
+  const std::string items =
+      "100  ',memo,,3\r\n1000 'ID,L\r\n1001 'name,L\r\n1002 'points,R\r\n1003 'remark,L\r\n"
+      "2000 '3\r\n2001 '8\r\n2002 '4\r\n2003 '6\r\n";
+  std::string t;
+  for (const char* cells : {"1  \x91\xBE\x98Y      12a", "2  two     100b", "3  \x83\x5C|         c", "4  four      7",
+                            "5            8e", "6  six       9f"})
+    t += record(cells);
+  return {{"t.txt", t},
+          {"Kt.txt", items},
+          {"u.txt", record("u1") + record("u2")},
+          {"Ku.txt", items},
+          {"ZLKCLip", "2\r\n1\r\n2\r\n2\r\n1\r\n2\r\n\"p\"\r\n\"55\"\r\n\"q\"\r\n\"66\"\r\n"},
+          {"zlkTalk", " 1 \r\n"},
+          {"mAgent", " 0 \r\n"}};
+}
+
+}  // namespace zelko::test
