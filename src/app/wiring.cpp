@@ -6,8 +6,11 @@
 #include "files/picker/picker.h"
 #include "files/start/help.h"
 #include "files/start/startscreen.h"
+#include "stats/correlation/registercorrelation.h"
 #include "stats/frame/registerframe.h"
+#include "tablejobs/extract/form7.h"
 #include "tablejobs/replace/registerreplace.h"
+#include "tablejobs/search/search.h"
 #include "voice/dialogs.h"
 #include "voice/narration.h"
 
@@ -21,8 +24,11 @@ void wireProgram() {
   registerHelp();
   registerTableDesign();
   registerOutputFiles();
+  registerSearch();
+  registerExtraction();
   registerReplacement();
   registerAnalysisFrame();
+  registerCorrelation();
   narrateMenus();
 }
 

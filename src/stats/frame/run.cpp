@@ -28,6 +28,8 @@ Text& lastFile() {
 
 }  // namespace
 
+Text finishedSentence(TextView title) { return Text(title) + Text(kFinished); }
+
 const Text& lastResultFile() { return lastFile(); }
 
 AnalysisRun::~AnalysisRun() {
@@ -73,6 +75,11 @@ void AnalysisRun::tell(TextView line) {
   talkGated(line);
 }
 
+void AnalysisRun::tellStep(TextView shown, TextView said) {
+  if (frmHelp* window = loadedForm<frmHelp>()) window->RichTextBox1.setText(shown);
+  talkGated(said);
+}
+
 void AnalysisRun::closeDialogs() {
   const Silence silence;
   progress_.reset();
@@ -87,7 +94,7 @@ bool AnalysisRun::finish(Form& form, const Text& closing, bool repeats) {
   if (!report_.close()) return false;
   lastFile() = report_.path();
   closeUnheard(form);
-  const Text said = closing.empty() ? title_ + Text(kFinished) : closing;
+  const Text said = closing.empty() ? finishedSentence(title_) : closing;
   if (!repeats) {
     waitPastGate();
     showResultWindow(report_.path(), title_, said, report_.written());

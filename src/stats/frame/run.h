@@ -32,6 +32,8 @@ class AnalysisRun {
   bool stopped() const { return stopped_; }
   // A line of progress: in the window, and said where the gate allows.
   void tell(TextView line);
+  // The same for one of very many steps: its line stands alone in the window, and what is said may differ from it.
+  void tellStep(TextView shown, TextView said);
 
   // Ends the run whose report is whole. The window shows the result file, the caret on this report; it has the focus.
   // `closing` is said then, without one the sentence that all reports end with. With `repeats` FrmRepeat stands in
@@ -51,6 +53,9 @@ class AnalysisRun {
   std::optional<Progress> progress_;
   bool begun_ = false, stopped_ = false, windowOpen_ = false;
 };
+
+// "TITLE終了！結果ﾌｧｲﾙが表示されています…": how the closing sentence of a report begins or ends.
+Text finishedSentence(TextView title);
 
 // The result file that the last run wrote, for those who show it; empty before the first.
 const Text& lastResultFile();
