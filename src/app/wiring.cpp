@@ -8,7 +8,9 @@
 #include "files/start/startscreen.h"
 #include "stats/correlation/registercorrelation.h"
 #include "stats/frame/registerframe.h"
+#include "tablejobs/extract/form7.h"
 #include "tablejobs/replace/registerreplace.h"
+#include "tablejobs/search/search.h"
 #include "voice/dialogs.h"
 #include "voice/narration.h"
 
@@ -22,6 +24,8 @@ void wireProgram() {
   registerHelp();
   registerTableDesign();
   registerOutputFiles();
+  registerSearch();
+  registerExtraction();
   registerReplacement();
   registerAnalysisFrame();
   registerCorrelation();
