@@ -9,6 +9,7 @@
 #include "files/start/startscreen.h"
 #include "stats/correlation/registercorrelation.h"
 #include "stats/frame/registerframe.h"
+#include "stats/frequency/registerfrequency.h"
 #include "tablejobs/blocks/blocks.h"
 #include "tablejobs/extract/form7.h"
 #include "tablejobs/replace/registerreplace.h"
@@ -34,6 +35,7 @@ void wireProgram() {
   registerExtraction();
   registerReplacement();
   registerAnalysisFrame();
+  registerFrequency();
   registerCorrelation();
   narrateMenus();
 }
