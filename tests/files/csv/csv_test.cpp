@@ -7,8 +7,8 @@
 #include "files/csv/csvexport.h"
 #include "files/csv/csvimport.h"
 #include "files/csv/csvproposal.h"
-#include "platform/text/sjis.h"
 #include "fulldisk.h"
+#include "platform/text/sjis.h"
 #include "tablejobs/randomtable.h"
 
 namespace zelko::test {
