@@ -6,6 +6,7 @@
 #include "files/picker/picker.h"
 #include "files/start/help.h"
 #include "files/start/startscreen.h"
+#include "stats/calculators/calculatorform.h"
 #include "stats/correlation/registercorrelation.h"
 #include "stats/frame/registerframe.h"
 #include "tablejobs/replace/registerreplace.h"
@@ -24,6 +25,7 @@ void wireProgram() {
   registerOutputFiles();
   registerReplacement();
   registerAnalysisFrame();
+  registerCalculators();
   registerCorrelation();
   narrateMenus();
 }
