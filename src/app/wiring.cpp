@@ -9,7 +9,9 @@
 #include "stats/calculators/calculatorform.h"
 #include "stats/correlation/registercorrelation.h"
 #include "stats/frame/registerframe.h"
+#include "tablejobs/extract/form7.h"
 #include "tablejobs/replace/registerreplace.h"
+#include "tablejobs/search/search.h"
 #include "voice/dialogs.h"
 #include "voice/narration.h"
 
@@ -23,6 +25,8 @@ void wireProgram() {
   registerHelp();
   registerTableDesign();
   registerOutputFiles();
+  registerSearch();
+  registerExtraction();
   registerReplacement();
   registerAnalysisFrame();
   registerCalculators();
