@@ -9,6 +9,7 @@
 #include "stats/calculators/calculatorform.h"
 #include "stats/correlation/registercorrelation.h"
 #include "stats/frame/registerframe.h"
+#include "stats/frequency/registerfrequency.h"
 #include "tablejobs/extract/form7.h"
 #include "tablejobs/replace/registerreplace.h"
 #include "tablejobs/search/search.h"
@@ -30,6 +31,7 @@ void wireProgram() {
   registerReplacement();
   registerAnalysisFrame();
   registerCalculators();
+  registerFrequency();
   registerCorrelation();
   narrateMenus();
 }
