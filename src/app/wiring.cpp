@@ -7,6 +7,7 @@
 #include "files/picker/picker.h"
 #include "files/start/help.h"
 #include "files/start/startscreen.h"
+#include "stats/calculators/calculatorform.h"
 #include "stats/correlation/registercorrelation.h"
 #include "stats/frame/registerframe.h"
 #include "stats/frequency/registerfrequency.h"
@@ -35,6 +36,7 @@ void wireProgram() {
   registerExtraction();
   registerReplacement();
   registerAnalysisFrame();
+  registerCalculators();
   registerFrequency();
   registerCorrelation();
   narrateMenus();
