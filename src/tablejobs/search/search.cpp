@@ -27,8 +27,9 @@ namespace {
 constexpr TextView kWork = u"検索中";
 constexpr TextView kNoHit = u"検索文字列に該当するｾﾙはありません";
 
-// The round of the keys, and the cell where it stands.
+// The round of the keys, its direction, and the cell where it stands.
 SearchRound keyRound;
+bool keysTowardsHead = false;
 CellAt keyHit;
 
 // Stores the box and the row; false where no table is open.
@@ -127,7 +128,8 @@ void searchAgain(bool towardsHead) {
   if (!lastSearch) return openSearchForm();
   if (!storedForSearch()) return;
   const SearchSettings settings = settingsForKeys(towardsHead);
-  if (keyHit != CellAt{curRec, curItem}) keyRound.end();
+  if (keyHit != CellAt{curRec, curItem} || keysTowardsHead != towardsHead) keyRound.end();
+  keysTowardsHead = towardsHead;
   const Scan scan = keyRound.next(settings, kWork, [](CellAt at) {
     curRec = at.record;
     curItem = at.item;
