@@ -60,38 +60,6 @@ bool mainFormIsFree() {
          std::none_of(screen().shown().begin(), screen().shown().end(), [](const Form* f) { return f->modal(); });
 }
 
-// The silences that are known, each until somebody gives it a word: what begins the line, and the place.
-struct Listed {
-  std::string_view line, place;
-};
-constexpr Listed kListed[] = {
-    // A jump that ends where it began stores what was typed, and tells neither.
-    {"menu mnuEXT", "Form1.txtinputbox"},
-    {"menu mnuHOME", "Form1.txtinputbox"},
-    {"menu mnuNr", "Form1.txtinputbox"},
-    {"key Ctrl+Left", "Form1.txtinputbox"},
-    {"key Ctrl+Right", "Form1.txtinputbox"},
-    {"key Ctrl+Up", "Form1.txtinputbox"},
-    {"key Ctrl+Down", "Form1.txtinputbox"},
-    // The cell is put back without a word where the cursor stands on it already.
-    {"menu mnuCTRLU", "Form1.txtinputbox"},
-    {"key Ctrl+U", "Form1.txtinputbox"},
-    // What is typed into the boxes of the range isn't echoed.
-    {"key ", "frmHANI.Text"},
-    // The button that copies and stays where it is.
-    {"key Enter", "Form1.Command1"},
-    {"key Space", "Form1.Command1"},
-    // The list of the items opened from a box where something is typed; the alignment turned in its own box.
-    {"key Ctrl+L", "Form1.txtinputbox"},
-    {"menu mnuRL", "Form1.txtLR"},
-};
-
-bool isListed(const std::string& line, const std::string& place) {
-  return std::any_of(std::begin(kListed), std::end(kListed), [&](const Listed& listed) {
-    return line.starts_with(listed.line) && place.starts_with(listed.place);
-  });
-}
-
 std::string placeOfFocus() {
   const Form* form = screen().activeForm();
   if (!form) return "nowhere";
@@ -137,7 +105,7 @@ std::string Rules::brokenBySilence() const {
   const bool menu = line_.starts_with("menu ");
   if ((!menu && !line_.starts_with("key ")) || burst_ || otherVoice_ || talkMode != kUsualLevel || !heard_.empty())
     return "";
-  if ((!menu && state_ == stateOfUser()) || isListed(line_, place_)) return "";
+  if (!menu && state_ == stateOfUser()) return "";
   return "silence: " + line_ + " at " + place_;
 }
 
