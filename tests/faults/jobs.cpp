@@ -47,7 +47,6 @@ const std::vector<Job> kJobs = {
      "wait 1\n# job\nmenu mnuMBROCK\nwait 1\nfocus FrmBROCK.Text2\ncommit 1/0\nkey Enter\ncommit new.txt\nkey "
      "Enter\nwait 2\nkey Y",
      "new.txt"},
-    {"csv-out", Holds::whole, "wait 1\n# job\nmenu mnuCSV\nwait 20\nkey Enter\nwait 2"},
     {"lock-and-release", Holds::records,
      "type x\nkey Enter\nmenu mnuFbt\nkey Y\nwait 2\nmenu mnuFbt\nkey Y\nwait 2\ntype y\nkey Enter\nkey Down"},
     {"leave", Holds::records, "type x\nkey Enter\nmenu mnuEND"},
