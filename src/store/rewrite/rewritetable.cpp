@@ -79,10 +79,11 @@ std::optional<Swap> swapOf(const Work& work, bool itemsToo) {
   return swap;
 }
 
-// An item file behind a link on another file system: the new one takes the place of the link.
+// An item file behind a link on another file system: the new one takes the place of the link. It has its name also
+// where only the folder could not be synced.
 bool swapItems(const Work& work) {
-  return replaceFile(work.itemFile, work.items) == FileError::none ||
-         renameOver(work.itemFile, work.items) == FileError::none;
+  if (replaceFile(work.itemFile, work.items) != FileError::none) renameOver(work.itemFile, work.items);
+  return lengthOf(work.itemFile) < 0;
 }
 
 // What could go wrong up to the new data file's name leaves the table alone.
