@@ -44,6 +44,13 @@ class Spoken {
   bool anythingToHear() const {
     return std::any_of(text_.begin(), text_.end(), [](char16_t unit) { return unit != u' ' && !isPauseOrStop(unit); });
   }
+  std::size_t size() const { return text_.size(); }
+  // Ends at the last word that has room, with a word about the rest.
+  void cutTo(std::size_t limit) {
+    const std::size_t word = text_.find_last_of(u" 、。？", limit);
+    text_.resize(word == Text::npos || word < limit / 2 ? limit : word);
+    append(u"。イカ リャク");
+  }
   Text finished() && {
     while (!text_.empty() && (text_.back() == u' ' || text_.back() == u'、')) text_.pop_back();
     return std::move(text_);
@@ -85,14 +92,15 @@ class Spoken {
 
 class Reading {
  public:
-  Reading(std::vector<Piece> pieces, Dictionary& dictionary) : pieces_(std::move(pieces)), dictionary_(dictionary) {
+  Reading(std::vector<Piece> pieces, Dictionary& dictionary, Spoken& spoken)
+      : pieces_(std::move(pieces)), dictionary_(dictionary), spoken_(spoken) {
     for (std::size_t i = 0; i < pieces_.size(); ++i) {
       surface_ += pieces_[i].surface;
       owner_.insert(owner_.end(), pieces_[i].surface.size(), i);
     }
   }
 
-  Spoken spoken() {
+  void sayAll() {
     const std::vector<Morpheme> words = dictionary_.morphemes(surface_);
     std::size_t at = 0;
     for (const Morpheme& word : words) {
@@ -101,7 +109,6 @@ class Reading {
       at = word.begin + word.length;
     }
     sayUnits(at, surface_.size());
-    return std::move(spoken_);
   }
 
  private:
@@ -188,15 +195,37 @@ class Reading {
   Dictionary& dictionary_;
   Text surface_;
   std::vector<std::size_t> owner_;  // of each unit of the surface
-  Spoken spoken_;
+  Spoken& spoken_;
 };
+
+// The dictionary and some rules look ahead to the end of a run of like signs, at each of them: no stretch handed to
+// them is longer than this, so that the work grows evenly with the text.
+constexpr std::size_t kLongestStretch = 500;
+
+// The units of the next stretch; the cut is behind a pause where one stands in its second half.
+std::size_t stretchOf(TextView plain) {
+  if (plain.size() <= kLongestStretch) return plain.size();
+  const std::size_t pause = plain.find_last_of(u" 　。､、｡", kLongestStretch - 1);
+  return pause == TextView::npos || pause < kLongestStretch / 2 ? kLongestStretch : pause + 1;
+}
+
+Spoken spokenOf(TextView plain, bool nameAll, Dictionary& dictionary, std::size_t limit) {
+  Spoken spoken;
+  while (!plain.empty() && spoken.size() <= limit) {
+    const std::size_t length = stretchOf(plain);
+    Reading(piecesOf(plain.substr(0, length), nameAll), dictionary, spoken).sayAll();
+    plain.remove_prefix(length);
+  }
+  if (spoken.size() > limit) spoken.cutTo(limit);
+  return spoken;
+}
 
 }  // namespace
 
-Text kanaForSpeech(TextView sentence, Dictionary& dictionary) {
+Text kanaForSpeech(TextView sentence, Dictionary& dictionary, std::size_t limit) {
   const Text plain = plainSpelling(sentence);
-  Spoken spoken = Reading(piecesOf(plain, false), dictionary).spoken();
-  if (!spoken.anythingToHear()) spoken = Reading(piecesOf(plain, true), dictionary).spoken();
+  Spoken spoken = spokenOf(plain, false, dictionary, limit);
+  if (!spoken.anythingToHear()) spoken = spokenOf(plain, true, dictionary, limit);
   return std::move(spoken).finished();
 }
 

@@ -35,7 +35,7 @@ replaces the one being said. "＜速さ０＞" to "＜速さ９＞" in a text se
   --print      print instead of speaking; for each sentence:
                  say TEXT     the sentence as it came, line ends as \n ("agent TEXT": of the talking character)
                  speed N      where a speed tag was in it, 0 to 9
-                 kana TEXT    what the speech engine would be handed
+                 kana TEXT    what the speech engine would be handed, cut to what is said in five minutes
   --clipboard  take the texts from the clipboard
   --stdin      take them from standard input, one a line
   --plain      take every line as it stands
@@ -83,7 +83,8 @@ class Output {
     const Utterance utterance = sentence.agent ? agentUtterance(sentence.text) : clipboardUtterance(sentence.text);
     std::cout << (sentence.agent ? "agent " : "say ") << toUtf8(oneLine(sentence.text)) << '\n';
     if (utterance.speed) std::cout << "speed " << *utterance.speed << '\n';
-    std::cout << "kana " << toUtf8(kanaForSpeech(utterance.words, dictionary_)) << std::endl;
+    std::cout << "kana " << toUtf8(kanaForSpeech(utterance.words, dictionary_, longestKana(utterance.rate)))
+              << std::endl;
   }
 
   static Text oneLine(TextView text) {

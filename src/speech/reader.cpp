@@ -107,7 +107,7 @@ struct Reader::Worker {
     const Utterance utterance = agent ? agentUtterance(request.sentence) : clipboardUtterance(request.sentence);
     if (!agent && utterance.rate) rate = utterance.rate;
     voice = {agent, agent ? utterance.rate : rate, utterance.pitch};
-    return toUtf8(kanaForSpeech(utterance.words, dictionary));
+    return toUtf8(kanaForSpeech(utterance.words, dictionary, longestKana(voice.rate)));
   }
 
   // Waits for the time of the next attempt; false where it comes too late for this sentence, or a newer one is there.

@@ -44,6 +44,12 @@ int rateOfWords(int words) {
 
 }  // namespace
 
+std::size_t longestKana(std::optional<int> rate) {
+  constexpr int seconds = 5 * 60;
+  const int value = rate.value_or(0);
+  return static_cast<std::size_t>(seconds * (1000 + value * (value < 0 ? 5 : 16)) / 100);
+}
+
 Utterance clipboardUtterance(TextView sentence) {
   Utterance result;
   for (std::size_t i = 0; i < sentence.size(); ++i) {

@@ -14,6 +14,10 @@ struct Utterance {
   std::optional<int> pitch;  // -100 to 100
 };
 
+// The kana that a voice says in five minutes at this rate, without one at the middle: the longest sentence that makes
+// sense. By the stock engine, which says 5, 10 and 26 a second at the rates -100, 0 and 100.
+std::size_t longestKana(std::optional<int> rate);
+
 // A sentence of the clipboard channel. A speed sets the rate evenly, 0 the slowest; 4 and 5 are the middle.
 Utterance clipboardUtterance(TextView sentence);
 

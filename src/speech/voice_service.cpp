@@ -10,6 +10,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cctype>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
@@ -29,6 +30,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr std::string_view kUnixAddress = "unix_socket:";
+constexpr std::size_t kLongestName = 64;
 constexpr std::size_t kLongestLine = 4096;
 constexpr std::size_t kMostLines = 20000;  // an engine with a voice for each language and manner lists 13,000
 constexpr const char* kCharacterVoice = "FEMALE1";
@@ -38,6 +40,15 @@ std::string usersOwnSocket() {
   if (runtime != nullptr && *runtime != 0) return std::string(runtime) + "/speech-dispatcher/speechd.sock";
   const char* home = std::getenv("HOME");
   return std::string(home == nullptr ? "" : home) + "/.cache/speech-dispatcher/speechd.sock";
+}
+
+// The user's name in the words of an order: a blank, a colon or a control character would begin another.
+std::string userName() {
+  const char* user = std::getenv("USER");
+  std::string name;
+  for (const char* at = user == nullptr ? "" : user; *at != 0 && name.size() < kLongestName; ++at)
+    name += std::isalnum(static_cast<unsigned char>(*at)) != 0 || *at == '-' || *at == '.' ? *at : '_';
+  return name.empty() ? "user" : name;
 }
 
 // A line that is only a dot would end the message.
@@ -120,9 +131,7 @@ bool VoiceService::startService(const std::string& path) {
 }
 
 bool VoiceService::greet() {
-  const char* user = std::getenv("USER");
-  const std::string name = user == nullptr || *user == 0 ? "user" : user;
-  const bool known = set("CLIENT_NAME", name + ":zelko:reader") && set("PRIORITY", "text");
+  const bool known = set("CLIENT_NAME", userName() + ":zelko:reader") && set("PRIORITY", "text");
   if (!known) return false;
   // Refused settings are no reason to stay silent.
   set("SSML_MODE", "off");

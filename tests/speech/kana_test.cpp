@@ -4,6 +4,7 @@
 #include <doctest/doctest.h>
 
 #include <algorithm>
+#include <chrono>
 #include <random>
 
 #include "speech/utterance.h"
@@ -137,9 +138,22 @@ TEST_CASE("any input becomes something an engine can say") {
     CAPTURE(toUtf8(kana));
     CHECK(std::all_of(kana.begin(), kana.end(), isSpeakable));
   }
-  Text longText;
-  for (int i = 0; i < 2500; ++i) longText += u"東京1､";
-  CHECK(kanaOf(longText).size() > longText.size());
+}
+
+TEST_CASE("a long text takes its time once, and is cut at a word") {
+  for (TextView unit : {u"カ", u"ｶﾞ", u"三", u"1/", u"東京1､"}) {
+    Text text;
+    while (text.size() < 300000) text += unit;
+    CAPTURE(toUtf8(unit));
+    const auto start = std::chrono::steady_clock::now();
+    CHECK(kanaOf(text).size() > text.size() / 4);
+    CHECK(std::chrono::steady_clock::now() - start < std::chrono::seconds(8));
+  }
+  Dictionary dictionary;
+  CHECK(kanaForSpeech(u"東京都の記録を読む", dictionary, 11) == u"トーキョートノ。イカ リャク");
+  CHECK(kanaForSpeech(u"東京都の記録を読む", dictionary, 15) == u"トーキョートノ キロクオ ヨム");
+  CHECK(longestKana(std::nullopt) == 3000);
+  CHECK(longestKana(100) == 7800);
 }
 
 TEST_CASE("tags set the voice and are not spoken") {

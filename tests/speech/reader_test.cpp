@@ -4,6 +4,7 @@
 #include <doctest/doctest.h>
 
 #include <chrono>
+#include <cstdlib>
 #include <string>
 #include <thread>
 
@@ -64,6 +65,19 @@ TEST_CASE("the service says kana, at the speed and in the voice asked for") {
   reader.say(u"もどる");
   CHECK(has(server.spoken("モドル"), "man 100.00 0.00 モドル"));
   CHECK(reader.serviceFound());
+}
+
+TEST_CASE("a user's name gives no orders to the service") {
+  if (skipped()) return;
+  SpeechServer server;
+  REQUIRE(server.start());
+  const char* before = std::getenv("USER");
+  const std::string name = before == nullptr ? "" : before;
+  setenv("USER", "taro\r\nQUIT\r\n hanako:", 1);
+  Reader reader(on(server));
+  reader.say(u"きこえる");
+  CHECK(has(server.spoken("キコエル"), "キコエル"));
+  setenv("USER", name.c_str(), 1);
 }
 
 TEST_CASE("of a burst the last sentence is said, and no call waits") {

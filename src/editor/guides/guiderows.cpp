@@ -34,6 +34,8 @@ constexpr GuideRow kAltRows[] = {
     {u"Command25", u"ｱﾙﾄﾌﾟﾗｽｳｴﾔｼﾞﾙｼ", u"↑", u"記録範囲指定開始"},
     {u"Command26", u"ｱﾙﾄﾌﾟﾗｽ", u"N", u"現在ｾﾙﾃｷｽﾄ読み上げ"},
     {u"Command27", u"ｱﾙﾄﾌﾟﾗｽ", u"M", u"現在行ﾃｷｽﾄ読み上げ"},
+    {u"Command28", u"ｼﾌﾄﾌﾟﾗｽｺﾝﾄﾛｰﾙ", u"N", u"同じ条件で前を検索"},
+    {u"Command29", u"ｼﾌﾄﾌﾟﾗｽｺﾝﾄﾛｰﾙ", u"H", u"検索件数と何件目か"},
 };
 
 constexpr GuideRow kCtrlRows[] = {
@@ -72,6 +74,7 @@ constexpr GuideRow kCtrlRows[] = {
     {u"Command37", u"ｺﾝﾄﾛｰﾙﾌﾟﾗｽ", u"L", u"項目名一覧ﾌｫｰﾑ表示"},
     {u"Command38", u"ｺﾝﾄﾛｰﾙﾌﾟﾗｽ", u"U", u"既存ﾃﾞｰﾀ入力ﾎﾞｯｸｽにｺﾋﾟｰ"},
     {u"command39", u"ｺﾝﾄﾛｰﾙﾌﾟﾗｽ", u"Insert", u"範囲指定中､ｸﾘｯﾌﾟﾌｧｲﾙ作成"},
+    {u"Command40", u"ｺﾝﾄﾛｰﾙﾌﾟﾗｽ", u"N", u"同じ条件で次を検索"},
 };
 
 constexpr GuideRow kFunctionRows[] = {

@@ -97,7 +97,7 @@ void frmREPLACE::frmREPLACE_Command3_Click() {
   run.scope = backward ? scopeOf(1, curRec, items, true) : scopeOf(curRec, recCount(), items);
   run.change = [&](std::string_view cell) -> std::optional<std::string> {
     if (!isHit(wanted, trimmed(fromSjis(cell)))) return std::nullopt;
-    return replacedBytes(wanted, cell);
+    return replaceCell(wanted, cell);
   };
   if (asks) {
     run.question = [](std::int32_t record, int item, const Text& old, const Text&) {

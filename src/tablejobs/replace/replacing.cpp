@@ -18,7 +18,7 @@ bool isHit(const ReplaceRule& rule, TextView cell) {
   return sought.empty() ? rule.wholeCell : contains(held, sought);
 }
 
-std::string replacedBytes(const ReplaceRule& rule, std::string_view cell) {
+std::string replaceCell(const ReplaceRule& rule, std::string_view cell) {
   const std::string with = toSjis(rule.with);
   const Text sought = folded(rule, rule.search);
   if (rule.wholeCell || rule.equal || sought.empty()) return with;

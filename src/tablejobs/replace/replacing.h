@@ -24,6 +24,6 @@ bool isHit(const ReplaceRule& rule, TextView cell);
 
 // The Shift-JIS bytes of a hit cell with the replacement in them, not yet fitted to a width. Every place is replaced,
 // from the left, none within what was put there.
-std::string replacedBytes(const ReplaceRule& rule, std::string_view cell);
+std::string replaceCell(const ReplaceRule& rule, std::string_view cell);
 
 }  // namespace zelko

@@ -125,7 +125,7 @@ TEST_CASE("replace: runs over random tables do what a stupid second program does
     job.change = [&](std::string_view cell) -> std::optional<std::string> {
       const Text old = fromSjis(cell);
       if (converts) return converted(kinds, old) == old ? std::nullopt : std::optional(toSjis(converted(kinds, old)));
-      return isHit(rule, trimmed(old)) ? std::optional(replacedBytes(rule, cell)) : std::nullopt;
+      return isHit(rule, trimmed(old)) ? std::optional(replaceCell(rule, cell)) : std::nullopt;
     };
     const int count = static_cast<int>(table.records.size());
     const int first = 1 + upTo(random, std::max(count - 1, 0)), last = upTo(random, count);

@@ -37,12 +37,12 @@ TEST_CASE("replace: parts and whole cells, by characters and not by bytes") {
   for (const Row& row : rows) {
     CAPTURE(toUtf8(row.cell));
     CHECK(isHit(row.rule, row.cell) == row.hit);
-    if (row.hit) CHECK(fromSjis(replacedBytes(row.rule, toSjis(row.cell))) == row.result);
+    if (row.hit) CHECK(fromSjis(replaceCell(row.rule, toSjis(row.cell))) == row.result);
   }
   // Codes with two forms and halves of characters beside the hit stay what they were.
-  CHECK(replacedBytes({.search = u"a", .with = u"b"},
-                      "\xEE\xE0"
-                      "a\x81") ==
+  CHECK(replaceCell({.search = u"a", .with = u"b"},
+                    "\xEE\xE0"
+                    "a\x81") ==
         "\xEE\xE0"
         "b\x81");
 }

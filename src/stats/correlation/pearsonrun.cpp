@@ -1,0 +1,120 @@
+#include "stats/correlation/pearsonrun.h"
+
+#include <cmath>
+
+#include "editor/main/commands.h"
+#include "platform/text/format.h"
+#include "platform/text/number.h"
+#include "stats/correlation/itemform.h"
+#include "stats/frame/analysis.h"
+#include "stats/frame/columns.h"
+#include "stats/frame/run.h"
+#include "stats/numbers/limits.h"
+#include "stats/numbers/pearson.h"
+
+namespace zelko {
+
+namespace {
+
+constexpr TextView kTitle = u"ﾋﾟｱｿﾝ積率相関係数";
+
+// The coefficients of a run: each is the report's, of whole numbers, beside that of the values as they stand.
+class PearsonReport {
+ public:
+  PearsonReport(AnalysisRun& run, const ItemColumns& columns, bool standardised)
+      : run_(run), columns_(columns), standardised_(standardised) {}
+
+  // False where the user stopped it.
+  bool write(const ItemList& group1, const ItemList& group2);
+  // What the report does not tell: the only coefficient, else where rounding moved one most.
+  Text spokenFigures() const;
+
+ private:
+  void writePair(std::int16_t i, std::int16_t j);
+
+  AnalysisRun& run_;
+  const ItemColumns& columns_;
+  bool standardised_;
+  std::int64_t done_ = 0, refused_ = 0;
+  struct Pair {
+    std::int16_t i = 0, j = 0;
+    numbers::Pearson result;
+    double gap() const { return std::abs(result.r - result.exact); }
+  };
+  Pair widest_;
+};
+
+bool PearsonReport::write(const ItemList& group1, const ItemList& group2) {
+  for (const std::int16_t i : group1) {
+    for (const std::int16_t j : group2) {
+      if (!run_.step(done_)) return false;
+      const Text line = decimal(i) + u"項目:/" + decimal(j) + u"実行中";
+      run_.tellStep(line, line);
+      writePair(i, j);
+    }
+    run_.report().line(TextView());
+  }
+  return true;
+}
+
+void PearsonReport::writePair(std::int16_t i, std::int16_t j) {
+  const numbers::Pearson result = numbers::pearson(columns_.at(i), columns_.at(j), standardised_);
+  Report& report = run_.report();
+  report.line(u"[Item " + format(i, u"###/") + format(j, u"###] ***** (n=") + format(result.n, u"###)"));
+  if (result.refused) {
+    report.line(u"cannot culc. for N<=1 or SD=0");
+    ++refused_;
+  } else {
+    report.line(PrintLine().number(i).text(u",").number(j).text(u",").number(result.n).text(u",").number(result.r));
+    if (const Pair pair{i, j, result}; done_ == refused_ || pair.gap() > widest_.gap()) widest_ = pair;
+  }
+  ++done_;
+}
+
+Text PearsonReport::spokenFigures() const {
+  Text said = decimal(done_) + u"組";
+  if (refused_ > 0) said += u"、うち" + decimal(refused_) + u"組わ計算不能";
+  if (widest_.i == 0) return said + u"。";
+  said += done_ - refused_ == 1 ? u"。" : u"。整数に丸めた計算との差が最も大きいのわ";
+  said += u"項目" + decimal(widest_.i) + u"と" + decimal(widest_.j) + u"、相関係数" +
+          format(widest_.result.r, u"0.0000") + u"、丸めない値わ" + format(widest_.result.exact, u"0.0000");
+  return said + u"。";
+}
+
+ItemList joined(const ItemList& group1, const ItemList& group2) {
+  ItemList all = group1;
+  all.insert(all.end(), group2.begin(), group2.end());
+  return all;
+}
+
+void runPearson(frmRP& form, const ItemList& group1, const ItemList& marked2) {
+  const ItemList& group2 = form.Check1.value() == 1 ? marked2 : group1;
+  AnalysisRun run(kTitle);
+  if (!run.begin(kTitle)) return;
+  numbers::requireAtMost(static_cast<std::size_t>(lastRecord - firstRecord + 1), numbers::kPearsonLimit, Text(kTitle),
+                         u"記録");
+  const auto columns = readColumns(joined(group1, group2), kTitle);
+  if (!columns) return run.stop();
+  run.compute(kTitle, static_cast<std::int64_t>(group1.size() * group2.size()));
+  PearsonReport report(run, *columns, form.Check2.value() == 0);
+  if (!report.write(group1, group2)) return run.stop();
+  run.report().line(u"9999");
+  run.report().line(PrintLine().text(u"RECORD").number(firstRecord).text(u"-").number(lastRecord));
+  run.finish(form, report.spokenFigures() + finishedSentence(kTitle));
+}
+
+}  // namespace
+
+void registerPearson() {
+  registerCommand(u"mnuRP", [] {
+    openItemForm({.word = u"RP",
+                  .caption = Text(kTitle),
+                  .explanation =
+                      u"指定項目間のﾋﾟｱｿﾝ積率相関係数を求めます。なおﾃﾞｰﾀ値０のサンプルはＮより排除され計算されます。",
+                  .secondGroup = ItemFormJob::SecondGroup::whereChecked,
+                  .converts = true,
+                  .run = runPearson});
+  });
+}
+
+}  // namespace zelko

@@ -1,0 +1,8 @@
+// The correlations between items.
+#pragma once
+
+namespace zelko {
+
+void registerCorrelation();
+
+}  // namespace zelko
