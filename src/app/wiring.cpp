@@ -11,6 +11,8 @@
 #include "stats/correlation/registercorrelation.h"
 #include "stats/frame/registerframe.h"
 #include "stats/frequency/registerfrequency.h"
+#include "stats/twogroups/tform.h"
+#include "stats/twogroups/uform.h"
 #include "tablejobs/blocks/blocks.h"
 #include "tablejobs/extract/form7.h"
 #include "tablejobs/replace/registerreplace.h"
@@ -37,6 +39,8 @@ void wireProgram() {
   registerReplacement();
   registerAnalysisFrame();
   registerCalculators();
+  registerTForm();
+  registerUForm();
   registerFrequency();
   registerCorrelation();
   narrateMenus();
