@@ -6,7 +6,9 @@
 #include "files/picker/picker.h"
 #include "files/start/help.h"
 #include "files/start/startscreen.h"
+#include "stats/cluster/registercluster.h"
 #include "stats/correlation/registercorrelation.h"
+#include "stats/factor/factorrun.h"
 #include "stats/frame/registerframe.h"
 #include "tablejobs/extract/form7.h"
 #include "tablejobs/replace/registerreplace.h"
@@ -29,6 +31,8 @@ void wireProgram() {
   registerReplacement();
   registerAnalysisFrame();
   registerCorrelation();
+  registerFactor();
+  registerCluster();
   narrateMenus();
 }
 

@@ -51,11 +51,17 @@ void Report::line(TextView text) {
   if (printLine(file_.number(), text) != FileError::none) failed_ = true;
 }
 
-void Report::head(TextView title) {
+Text fileLine() { return u"ﾌｧｲﾙ名:" + tableName(); }
+
+Text timeLine() {
   const DateTime now = host().now();
+  return PrintLine().text(shortDate(now)).zone().text(shortTime(now)).line();
+}
+
+void Report::head(TextView title) {
   line(title);
-  line(u"ﾌｧｲﾙ名:" + tableName());
-  line(PrintLine().text(shortDate(now)).zone().text(shortTime(now)));
+  line(fileLine());
+  line(timeLine());
 }
 
 bool Report::close() {

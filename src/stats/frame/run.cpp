@@ -50,14 +50,23 @@ bool AnalysisRun::begin(TextView folder, bool anew, TextView reportTitle) {
 
 bool AnalysisRun::begin(TextView reportTitle) { return begin(resultFolder(), resultIsNew(), reportTitle); }
 
-void AnalysisRun::compute(TextView work, std::int64_t steps) {
+bool AnalysisRun::beginBare() {
+  begun_ = report_.open(resultFolder(), resultIsNew());
+  return begun_;
+}
+
+void AnalysisRun::openWindow() {
+  if (windowOpen_) return;
   const Silence silence;
-  if (!windowOpen_) {
-    frmHelp& window = openReading({.caption = title_, .text = {}, .report = true});
-    window.setBusy(true);
-    window.show();
-    windowOpen_ = true;
-  }
+  frmHelp& window = openReading({.caption = title_, .text = {}, .report = true});
+  window.setBusy(true);
+  window.show();
+  windowOpen_ = true;
+}
+
+void AnalysisRun::compute(TextView work, std::int64_t steps) {
+  openWindow();
+  const Silence silence;
   progress_.reset();
   progress_.emplace(work, steps);
 }
@@ -68,6 +77,20 @@ bool AnalysisRun::step(std::int64_t done) {
     analysisMode = u"BREAK";
   }
   return !stopped_;
+}
+
+void AnalysisRun::rest() {
+  const Silence silence;
+  progress_.reset();
+}
+
+void AnalysisRun::lines(const std::vector<Text>& lines) {
+  Text block;
+  for (const Text& line : lines) {
+    report_.line(line);
+    block += (block.empty() ? Text() : Text(kLineEnd)) + line;
+  }
+  if (frmHelp* window = loadedForm<frmHelp>()) window->addLine(block);
 }
 
 void AnalysisRun::tell(TextView line) {
