@@ -59,9 +59,11 @@ Text timeLine() {
 }
 
 void Report::head(TextView title) {
-  line(title);
-  line(fileLine());
-  line(timeLine());
+  head_.clear();
+  for (const Text& text : {Text(title), fileLine(), timeLine()}) {
+    line(text);
+    head_ += text + kLineEnd;
+  }
 }
 
 bool Report::close() {
