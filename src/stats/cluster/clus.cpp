@@ -102,9 +102,9 @@ bool askBeta(ClusterChoice& choice) {
 }
 
 Text spokenFigures(const numbers::Clustering& clustering, const MergeWords& words) {
-  Text said = u"記録" + decimal(words.objects()) + u"件、" + decimal(words.steps()) + u"段。";
-  if (words.steps() > 0) said += u"最後わ" + words.step(words.steps()) + u"。";
-  if (!clustering.complete()) said += Text(kEndedEarly) + u"。";
+  Text said = u"。記録" + decimal(words.objects()) + u"件、" + decimal(words.steps()) + u"段";
+  if (words.steps() > 0) said += u"。最後わ" + words.step(words.steps());
+  if (!clustering.complete()) said += u"。" + Text(kEndedEarly);
   return said;
 }
 

@@ -8,6 +8,7 @@
 #include "stats/frame/analysis.h"
 #include "store/table/table.h"
 #include "voice/dialogs.h"
+#include "voice/heard.h"
 
 namespace zelko {
 
@@ -29,6 +30,7 @@ void openCluster() {
   const bool isRaw = askYesNo(u"入力ﾃﾞｰﾀわ素点ですか。いいえで、距離マトリックスになります", kTitle);
   if (msgAnswer == kCancel) return;
   inputKind = isRaw ? u"raw" : u"mat";
+  nextIsHeard();
   openItemForm(
       {.word = u"CLUS",
        .caption = Text(kTitle),

@@ -77,6 +77,7 @@ bool FactorSolution::extract() {
   run_.rest();
   loadings_ = extraction.loadings();
   communalities_ = extraction.communalities();
+  settled_ = settled || !method->iterated;
   reportExtraction(*method, extraction.cycles());
   return true;
 }
@@ -131,7 +132,8 @@ bool FactorSolution::scores() {
 // --- Words ---------------------------------------------------------------------------------------------------
 
 Text FactorSolution::spokenFigures() const {
-  Text said = u"因子数わ" + decimal(factors_) + u"。";
+  Text said = u"因子数わ" + decimal(factors_);
+  if (!settled_) said += u"。反復の最大数に達し、収束していません";
   for (int k = 0; k < factors_; ++k) {
     double squares = 0;
     int highest = 0;
@@ -140,9 +142,9 @@ Text FactorSolution::spokenFigures() const {
       if (std::abs(loadings_(i, k)) > std::abs(loadings_(highest, k))) highest = i;
     }
     const auto item = static_cast<std::size_t>(items_[static_cast<std::size_t>(highest)]);
-    said += u"因子" + decimal(k + 1) + u"、寄与率" + format(100 * squares / loadings_.rows, u"0.0") +
+    said += u"。因子" + decimal(k + 1) + u"、寄与率" + format(100 * squares / loadings_.rows, u"0.0") +
             u"パーセント、負荷が最も大きい項目わ" + trimmed(itemName[item]) + u"、" +
-            figure(loadings_(highest, k), 0, 2).substr(1) + u"。";
+            figure(loadings_(highest, k), 0, 2).substr(1);
   }
   return said;
 }

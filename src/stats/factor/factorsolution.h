@@ -40,6 +40,7 @@ class FactorSolution {
   std::vector<double> communalities_;
   Text label_;  // what stands in the diagonal
   int factors_ = 0;
+  bool settled_ = true;  // the iteration ended by its bound
   numbers::Matrix loadings_;
 };
 
