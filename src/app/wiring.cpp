@@ -13,6 +13,8 @@
 #include "stats/factor/factorrun.h"
 #include "stats/frame/registerframe.h"
 #include "stats/frequency/registerfrequency.h"
+#include "stats/twogroups/tform.h"
+#include "stats/twogroups/uform.h"
 #include "tablejobs/blocks/blocks.h"
 #include "tablejobs/extract/form7.h"
 #include "tablejobs/replace/registerreplace.h"
@@ -39,6 +41,8 @@ void wireProgram() {
   registerReplacement();
   registerAnalysisFrame();
   registerCalculators();
+  registerTForm();
+  registerUForm();
   registerFrequency();
   registerCorrelation();
   registerFactor();
