@@ -23,6 +23,7 @@ int chosenOf(const std::vector<OptionButton*>& options) {
 
 FrmCLUS::FrmCLUS() : Form(kName, u"クラスタ分析") {
   Text1.setText(u"2");
+  Text1.setWidth(1200);
   Text1.screenName = u"ﾐﾝｺﾌｽｷ距離の定数";
   Option1.setValue(1);
   Option5.setValue(1);
