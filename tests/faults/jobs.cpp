@@ -66,7 +66,8 @@ const std::vector<Job> kJobs = {
      "Enter\ntype r\nkey Enter\ntype 9\nfocus frmDESIGN.Command1\n# job\nkey Enter\nwait 2",
      "NoName.txt"},
     {"convert-text", Holds::whole,
-     "wait 1\nmenu mnuCZLK\nwait 1\nkey Down\nkey Enter\nwait 20\nkey Enter\n# job\nwait 2\nkey Enter\nwait 2\nkey Enter\nwait 1",
+     "wait 1\nmenu mnuCZLK\nwait 1\nkey Down\nkey Enter\nwait 20\nkey Enter\n# job\nwait 2\nkey Enter\nwait 2\nkey "
+     "Enter\nwait 1",
      "0_ZELKO.lst.txt"},
     {"delete-table", Holds::whole, "menu mnuDEL\nwait 1\nkey Down\nkey Down\n# job\nkey Enter\nkey Y\nwait 2", "d.txt"},
     {"model-table", Holds::whole, "wait 3\nkey Tab\nkey Tab\nkey Tab\nkey Tab\n# job\nkey Enter\nwait 2",
