@@ -48,7 +48,7 @@ bool isKnown(const std::string& name) {
   static constexpr std::array<std::string_view, 10> names = {
       "ZLKCLip", "ZLKCLip.bak", "ZLKCLip.for", "zlkTalk", "mAgent", "zlkHAHAKI", "zlkTEL", "zlkPORT", "KEKKA", "EKKA"};
   if (std::find(names.begin(), names.end(), name) != names.end()) return true;
-  return name.ends_with(".txt") || name.ends_with(".TXT");
+  return name.ends_with(".txt") || name.ends_with(".TXT") || name.ends_with(".csv");
 }
 
 // At the other levels less is said, and only what is asked for.
@@ -83,6 +83,9 @@ void Rules::before(const std::string& line) {
   if (first_.empty()) first_ = filesHere();
   if (line.starts_with("step ")) burst_ = line == "step 0";
   if (line == "menu mnuAGENT" || line == "menu mnuINH") otherVoice_ = true;
+  const Form* active = screen().activeForm();
+  // The reader of a text asks under which name it shall be kept: any name is a file then.
+  if (active && active->name() == u"frmTin" && screen().loaded(u"frmHelp")) namesFile_ = true;
   line_ = line;
   place_ = placeOfFocus();
   state_ = stateOfUser();
@@ -95,7 +98,7 @@ std::string Rules::brokenByFiles() {
     if (isTable(name, files)) {
       if (std::string broken = brokenRecords(bytes); !broken.empty()) return broken;
     }
-    if (isWorkFile(name) ? mainFormIsFree() : !isKnown(name)) return "a stray file " + name;
+    if (isWorkFile(name) ? mainFormIsFree() : !isKnown(name) && !namesFile_) return "a stray file " + name;
   }
   if (manner_ == Manner::onlyLooking && !first_.empty() && files != first_) return "looking changed a file";
   return "";
