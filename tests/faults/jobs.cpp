@@ -55,7 +55,8 @@ const std::vector<Job> kJobs = {
      "new.txt\\n\nwait 2\nkey Y\nwait 1",
      "new.txt"},
     {"extract-by-text", Holds::whole,
-     "key Right\nmenu mnuFIND\nkey Shift+Ctrl+A\ntype o\nkey Enter\n# job\ntype new.txt\\n\nwait 2\nkey Y\nwait 1",
+     "key Right\nmenu mnuFIND\nkey Shift+Ctrl+A\ncommit o\nfocus Form2.Check4\nkey Space\nclick Form2.Command1\n# "
+     "job\ntype new.txt\\n\nwait 2\nkey Y\nwait 1",
      "new.txt"},
     {"csv-read", Holds::whole,
      "wait 1\nmenu mnuREAD\nwait 1\nfocus frmDISK.Command2\nkey Enter\nwait 1\nfocus frmDESIGN.Command4\nkey "

@@ -1,6 +1,7 @@
 // Any bytes as a file of codes: every key in it finds what stands for it, and the table keeps its shape.
 #include <algorithm>
 
+#include "files/picker/pickerreference.h"
 #include "fuzz/target.h"
 #include "platform/text/sjis.h"
 #include "store/store_fixture.h"
