@@ -7,6 +7,7 @@
 #include "files/start/help.h"
 #include "files/start/startscreen.h"
 #include "stats/correlation/registercorrelation.h"
+#include "stats/crosstable/registercrosstable.h"
 #include "stats/frame/registerframe.h"
 #include "tablejobs/extract/form7.h"
 #include "tablejobs/replace/registerreplace.h"
@@ -29,6 +30,7 @@ void wireProgram() {
   registerReplacement();
   registerAnalysisFrame();
   registerCorrelation();
+  registerCrossTable();
   narrateMenus();
 }
 
