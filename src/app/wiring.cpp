@@ -1,17 +1,22 @@
 #include "app/wiring.h"
 
 #include "editor/registereditor.h"
+#include "files/csv/csvform.h"
 #include "files/design/design.h"
 #include "files/output/output.h"
 #include "files/picker/picker.h"
 #include "files/start/help.h"
 #include "files/start/startscreen.h"
+#include "stats/calculators/calculatorform.h"
 #include "stats/correlation/registercorrelation.h"
 #include "stats/crosstable/registercrosstable.h"
 #include "stats/frame/registerframe.h"
+#include "stats/frequency/registerfrequency.h"
+#include "tablejobs/blocks/blocks.h"
 #include "tablejobs/extract/form7.h"
 #include "tablejobs/replace/registerreplace.h"
 #include "tablejobs/search/search.h"
+#include "tablejobs/sort/sortcommands.h"
 #include "voice/dialogs.h"
 #include "voice/narration.h"
 
@@ -25,10 +30,15 @@ void wireProgram() {
   registerHelp();
   registerTableDesign();
   registerOutputFiles();
+  registerCsv();
+  registerSorting();
+  registerBlocks();
   registerSearch();
   registerExtraction();
   registerReplacement();
   registerAnalysisFrame();
+  registerCalculators();
+  registerFrequency();
   registerCorrelation();
   registerCrossTable();
   narrateMenus();

@@ -53,9 +53,12 @@ void Report::line(TextView text) {
 
 void Report::head(TextView title) {
   const DateTime now = host().now();
-  line(title);
-  line(u"ﾌｧｲﾙ名:" + tableName());
-  line(PrintLine().text(shortDate(now)).zone().text(shortTime(now)));
+  head_.clear();
+  const Text when = PrintLine().text(shortDate(now)).zone().text(shortTime(now)).line();
+  for (const Text& text : {Text(title), u"ﾌｧｲﾙ名:" + tableName(), when}) {
+    line(text);
+    head_ += text + kLineEnd;
+  }
 }
 
 bool Report::close() {

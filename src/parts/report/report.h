@@ -20,6 +20,8 @@ class Report {
   void line(const PrintLine& pieces) { line(pieces.line()); }
   // Title, file name, date and time of a report on the open table.
   void head(TextView title);
+  // The lines of that head.
+  const Text& headText() const { return head_; }
   // False after a message where not all of it reached the file.
   bool close();
   const Text& path() const { return path_; }
@@ -27,7 +29,7 @@ class Report {
   std::size_t written() const { return written_; }
 
  private:
-  Text path_;
+  Text path_, head_;
   OwnedFile file_;
   std::size_t written_ = 0;
   bool failed_ = false;

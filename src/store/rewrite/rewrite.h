@@ -40,5 +40,7 @@ std::vector<ItemLine> itemsOnDisk();
 // as it was and the work files are gone; only where a finished file could not take its place is the rest of the swap
 // left for the next opening (see recovery.h).
 RewriteEnd rewriteTable(const RewritePlan& plan, const std::vector<ItemLine>* items, const KeepGoing& keepGoing);
+// The same for that many records as `read` gives them, 256 bytes each, with the items as they are.
+RewriteEnd rewriteTable(std::int32_t records, const ReadRecords& read, const KeepGoing& keepGoing);
 
 }  // namespace zelko

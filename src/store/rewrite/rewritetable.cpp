@@ -40,7 +40,7 @@ struct Work {
   FileMark mark;  // of `file`
 };
 
-RewriteEnd makeWork(const RewritePlan& plan, const KeepGoing& keepGoing, Work& work) {
+RewriteEnd makeWork(const RewritePlan& plan, const ReadRecords& read, const KeepGoing& keepGoing, Work& work) {
   if (openNewRandom(kWork, work.file, recLen) != FileError::none) return RewriteEnd::failed;
   takePermissions(kWork, work.data);  // before a byte of the table is in it
   Marking marking;
@@ -51,7 +51,7 @@ RewriteEnd makeWork(const RewritePlan& plan, const KeepGoing& keepGoing, Work& w
     marking.add(records);
     return reached;
   };
-  RewriteEnd end = rewriteRecords(plan, readOld, write, keepGoing);
+  RewriteEnd end = rewriteRecords(plan, read, write, keepGoing);
   if (end == RewriteEnd::done && syncFile(kWork) != FileError::none) end = RewriteEnd::failed;
   if (closeFile(kWork) != FileError::none && end == RewriteEnd::done) end = RewriteEnd::failed;
   work.mark = marking.mark();
@@ -102,11 +102,13 @@ bool swapWork(const Work& work, bool itemsToo) {
   return true;
 }
 
-RewriteEnd makeAndSwap(const RewritePlan& plan, const std::vector<ItemLine>* items, const KeepGoing& keepGoing) {
+RewriteEnd makeAndSwap(const RewritePlan& plan, const ReadRecords& read, const std::vector<ItemLine>* items,
+                       const KeepGoing& keepGoing) {
   if (!roomForRewrite(besideTable(u""))) return RewriteEnd::refused;
   Work work;
   RewriteEnd end = RewriteEnd::failed;
-  if (items == nullptr || (!isReadOnly(work.items) && makeWorkItems(*items))) end = makeWork(plan, keepGoing, work);
+  if (items == nullptr || (!isReadOnly(work.items) && makeWorkItems(*items)))
+    end = makeWork(plan, read, keepGoing, work);
   if (end == RewriteEnd::done && !swapWork(work, items != nullptr)) end = RewriteEnd::failed;
   if (end != RewriteEnd::done && !interruptedSwap(besideTable(u""))) {
     removeOwnName(work.file);
@@ -125,13 +127,19 @@ std::vector<ItemLine> itemsOnDisk() {
 }
 
 RewriteEnd rewriteTable(const RewritePlan& plan, const std::vector<ItemLine>* items, const KeepGoing& keepGoing) {
-  const RewriteEnd end = makeAndSwap(plan, items, keepGoing);
+  const RewriteEnd end = makeAndSwap(plan, readOld, items, keepGoing);
   if (end == RewriteEnd::done && items != nullptr) {
     Text error;
     readKFile(docPath, docDrive, error);
     if (!error.empty()) adoptWorkItems();
   }
   computeItemStart();
+  if (!isOpen(kDataFile)) reopenData();
+  return end;
+}
+
+RewriteEnd rewriteTable(std::int32_t records, const ReadRecords& read, const KeepGoing& keepGoing) {
+  const RewriteEnd end = makeAndSwap({{{1, records}}, {}}, read, nullptr, keepGoing);
   if (!isOpen(kDataFile)) reopenData();
   return end;
 }

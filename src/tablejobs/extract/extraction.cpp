@@ -233,11 +233,7 @@ void Extraction::workOn(bool stopped) {
     ++composedSentences;
     talkNow(message + rules_.closingWord);
   }
-  {
-    // Where the focus comes back to when the question is answered.
-    const Silence silence;
-    controls_.conditions.setFocus();
-  }
+  awaitFocus();
   switch (askWhereToWork(message, u"作業終了しました!")) {
     case WorkIn::source:
       return backToSource();
@@ -249,8 +245,15 @@ void Extraction::workOn(bool stopped) {
   }
 }
 
+// Where the focus comes back to when a dialog is answered.
+void Extraction::awaitFocus() {
+  const Silence silence;
+  controls_.conditions.setFocus();
+}
+
 void Extraction::fail(bool telling) {
   state_ = State::idle;
+  awaitFocus();
   output_->takeBack();
   telling ? tellWriteError() : tellSearchUnreadable();
   stayHere();

@@ -61,6 +61,7 @@ class Extraction {
   bool write(std::string_view data);
   void showOutput();
   void close(bool stopped);
+  void awaitFocus();
   void fail(bool telling);
   void workOn(bool stopped);
   void backToSource();

@@ -22,6 +22,8 @@ constexpr int kTypeCol = 1, kItemCol = 2, kRelationCol = 3, kValueCol = 4;
 constexpr int kListCode = 85;
 constexpr int kCharacterTwips = 120;
 constexpr std::array<int, 5> kWidths = {3, 2, 4, 4, 100};  // characters
+// What a narrow column has room for; the labels tell it whole.
+constexpr std::array<TextView, 5> kShortHeadings = {u"番", u"型", u"項目", u"記号", u"条件"};
 constexpr Colour kYellow = 0x00FFFF, kWhite = 0xFFFFFF;
 constexpr TextView kFaultTitle = u"検索条件表の誤り";
 
@@ -70,10 +72,9 @@ Form7::Form7()
   Grid1.setCols(kValueCol + 1);
   Grid1.setRows(3);
   for (int row = 1; row < Grid1.rows(); ++row) Grid1.setCellText(row, 0, decimal(row));
-  const Label* headings[] = {&Label2, &Label3, &Label4, &Label5, &Label6};
   for (int col = 0; col <= kValueCol; ++col) {
     const auto at = static_cast<std::size_t>(col);
-    Grid1.setCellText(0, col, headings[at]->caption());
+    Grid1.setCellText(0, col, kShortHeadings[at]);
     Grid1.setColWidth(col, kWidths[at] * kCharacterTwips);
   }
   Grid1.setCell(1, kTypeCol);
@@ -98,9 +99,13 @@ void Form7::wire() {
   appendHandler(Text1.onKeyDown, [this](KeyEvent& key) { Form7_Text1_KeyDown(key); });
 }
 
+Label& Form7::heading(int col) {
+  Label* const headings[] = {&Label2, &Label3, &Label4, &Label5, &Label6};
+  return *headings[col];
+}
+
 void Form7::markHeading() {
-  Label* headings[] = {&Label2, &Label3, &Label4, &Label5, &Label6};
-  for (int col = 0; col <= kValueCol; ++col) headings[col]->setBackColour(col == cells_.col() ? kYellow : kWhite);
+  for (int col = 0; col <= kValueCol; ++col) heading(col).setBackColour(col == cells_.col() ? kYellow : kWhite);
 }
 
 void Form7::Form7_Text1_KeyDown(KeyEvent& key) {

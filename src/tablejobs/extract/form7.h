@@ -41,6 +41,7 @@ class Form7 : public Form {
   ExtractionRules rules();
   void wire();
   void narrate();
+  Label& heading(int col);
   void markHeading();
   bool ready();
   ConditionLogic logic() const;

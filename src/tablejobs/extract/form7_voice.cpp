@@ -49,7 +49,7 @@ Text Form7::cellSentence(int row, int col) {
   Text sentence = row == saidRow_ ? Text() : u"条件番号" + decimal(row) + markPause;
   saidRow_ = row;
   if (!cell.empty()) sentence += cell + markPause;
-  return sentence + u"セルニュウリョクテキストボックス" + markPause + Grid1.cell(0, col) + markStop +
+  return sentence + u"セルニュウリョクテキストボックス" + markPause + heading(col).caption() + markStop +
          u"ｦ　ﾆｭｳﾘｮｸｼﾃｸﾀﾞｻｲ";
 }
 

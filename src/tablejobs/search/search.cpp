@@ -27,8 +27,9 @@ namespace {
 constexpr TextView kWork = u"検索中";
 constexpr TextView kNoHit = u"検索文字列に該当するｾﾙはありません";
 
-// The round of the keys, and the cell where it stands.
+// The round of the keys, its direction, and the cell where it stands.
 SearchRound keyRound;
+bool keysTowardsHead = false;
 CellAt keyHit;
 
 // Stores the box and the row; false where no table is open.
@@ -41,15 +42,6 @@ bool storedTyped() {
   hideRangeMask();
   dropRange();
   return true;
-}
-
-// The same; false also on a new line that holds nothing: there is no cell to begin at.
-bool storedForSearch() {
-  if (!storedTyped()) return false;
-  if (curRec <= recCount()) return true;
-  host().beep();
-  showOK(u"新規ギョウから検索はできません", u"注意");
-  return false;
 }
 
 // The item of the last search may not be one of the table that is open now.
@@ -91,6 +83,14 @@ Text countSentence(const HitCount& count) {
 
 }  // namespace
 
+bool storedForSearch() {
+  if (!storedTyped()) return false;
+  if (curRec <= recCount()) return true;
+  host().beep();
+  showOK(u"新規ギョウから検索はできません", u"注意");
+  return false;
+}
+
 Scan SearchRound::next(const SearchSettings& settings, TextView work, const std::function<bool(CellAt)>& onRecord) {
   const CellAt cursor = {curRec, curItem};
   if (!open_) start_ = cursor;
@@ -128,7 +128,8 @@ void searchAgain(bool towardsHead) {
   if (!lastSearch) return openSearchForm();
   if (!storedForSearch()) return;
   const SearchSettings settings = settingsForKeys(towardsHead);
-  if (keyHit != CellAt{curRec, curItem}) keyRound.end();
+  if (keyHit != CellAt{curRec, curItem} || keysTowardsHead != towardsHead) keyRound.end();
+  keysTowardsHead = towardsHead;
   const Scan scan = keyRound.next(settings, kWork, [](CellAt at) {
     curRec = at.record;
     curItem = at.item;

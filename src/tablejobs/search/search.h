@@ -27,6 +27,9 @@ class SearchRound {
   CellAt start_;
 };
 
+// Stores the input box and the row, and drops the range: a search may begin. False, told, on a new line that holds
+// nothing, and where no table is open.
+bool storedForSearch();
 // The cursor on that cell, shown without a word.
 void showFoundCell(CellAt at);
 // "見つかりました、…" for the cell of the cursor, with its pauses.

@@ -163,7 +163,7 @@ void frmSRCH::frmSRCH_Command1_Click() {
         SearchConditions{trimmed(Text1.content()), Check1.value(), Check2.value(), Check3.value(), searchItem};
     return screen().unload(*this);
   }
-  if (docPath.empty() || recCount() < 1 || curRec > recCount()) return host().beep();
+  if (!storedForSearch()) return;
   lastSearch = settings();
   const Scan result = scan();
   switch (result.end) {
