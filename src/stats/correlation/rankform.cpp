@@ -1,5 +1,7 @@
 #include "stats/correlation/rankform.h"
 
+#include <set>
+
 #include "editor/main/commands.h"
 #include "parts/ask/typed.h"
 #include "parts/disk/filewords.h"
@@ -95,6 +97,16 @@ Text frmRS::boxSentence(const TextBox& box) const {
   return name + box.labelledBy->caption() + u"ﾃｷｽﾄﾎﾞｯｸｽ";
 }
 
+std::vector<std::int16_t> frmRS::chosenItems() const {
+  std::set<std::int16_t> items;
+  for (const auto& [first, last] : {std::pair(&Text1, &Text2), std::pair(&Text3, &Text4)}) {
+    const auto from = typedItem(first->content(), 1), to = typedItem(last->content(), 1);
+    if (from && to)
+      for (std::int16_t item = *from; item <= *to; ++item) items.insert(item);
+  }
+  return {items.begin(), items.end()};
+}
+
 void frmRS::refuse(TextBox& box) {
   host().beep();
   {
@@ -136,9 +148,8 @@ void frmRS::frmRS_Command2_Click() {
 void registerRankForm() {
   registerForm<frmRS>();
   registerCommand(u"mnuRS", [] {
-    unload<frmRS>();
     analysisMode = u"RS";
-    form<frmRS>().showModal();
+    showAnalysisForm<frmRS>();
     analysisMode.clear();
   });
 }

@@ -8,6 +8,7 @@
 #include "platform/forms/form.h"
 #include "platform/forms/lists.h"
 #include "stats/correlation/spearmanrun.h"
+#include "stats/frame/datacheck.h"
 
 namespace zelko {
 
@@ -38,6 +39,7 @@ class frmRS : public Form {
   Button Command1{*this, u"Command1", u"実行"};
   Button Command2{*this, u"Command2", u"ｷｬﾝｾﾙ"};
   Button Command3{*this, u"Command3", u"フォルダ作成(&F)"};
+  DataCheckButton CommandCheck{*this, RangeTest::bothEnds, [this] { return chosenItems(); }};
 
  private:
   void wire();
@@ -45,6 +47,7 @@ class frmRS : public Form {
   void narrate();
   void showFolder();
   std::optional<ItemRun> itemsFrom(TextBox& first, TextBox& last);
+  std::vector<std::int16_t> chosenItems() const;  // as far as the boxes are right
   void refuse(TextBox& box);
   Text boxSentence(const TextBox& box) const;
   void frmRS_Command1_Click();

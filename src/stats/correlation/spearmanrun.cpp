@@ -3,6 +3,7 @@
 #include "platform/host.h"
 #include "platform/text/format.h"
 #include "platform/text/number.h"
+#include "stats/correlation/pairwords.h"
 #include "stats/frame/analysis.h"
 #include "stats/frame/columns.h"
 #include "stats/frame/run.h"
@@ -63,41 +64,41 @@ void writeResult(Report& report, const numbers::Spearman& result) {
   report.line(PrintLine().text(u"   n=").number(result.n).text(u"  CR=").number(result.cr));
 }
 
-struct Told {
-  std::int64_t pairs = 0, refused = 0;
-  Text last;  // the figures of the last pair that has any
+struct Pair {
+  std::int16_t i = 0, j = 0;
+  numbers::Spearman result;
 };
 
-Text figures(std::int16_t i, std::int16_t j, const numbers::Spearman& result) {
-  return u"項目" + decimal(i) + u"と" + decimal(j) + u"、N" + decimal(result.n) + u"、Rsわ" +
-         format(result.consistency, u"0.0000") + u"、CRわ" + format(result.cr, u"0.0000") + u"。";
+Text spokenPair(const Pair& pair) {
+  Text said = pairWords(pair.i, pair.j) + markPause;
+  if (pair.result.tooFew) return said + u"Ｎ＜２のため計算不能。";
+  return said + u"Rsわ" + format(pair.result.consistency, u"0.0000") + u"、CRわ" + format(pair.result.cr, u"0.0000") +
+         u"。";
 }
 
-// False where the user stopped it.
-bool writePairs(AnalysisRun& run, const ItemColumns& columns, const Items& group1, const Items& group2, Told& told) {
+// Fewer pairs than there should be where the user stopped it.
+std::vector<Pair> writePairs(AnalysisRun& run, const ItemColumns& columns, const Items& group1, const Items& group2) {
+  std::vector<Pair> pairs;
   for (const std::int16_t i : group1) {
     for (const std::int16_t j : group2) {
-      if (!run.step(told.pairs)) return false;
+      if (!run.step(static_cast<std::int64_t>(pairs.size()))) return pairs;
       const Text first = itemLine(i).line(), second = itemLine(j).line();
       run.tellStep(first + kLineEnd + second + u"　計算中．．．", first + markPause + second + u"　計算中．．．");
       for (const TextView line : {TextView(), TextView(first), TextView(second)}) run.report().line(line);
-      const numbers::Spearman result = numbers::spearman(columns.at(i), columns.at(j));
-      writeResult(run.report(), result);
-      ++told.pairs;
-      if (result.tooFew)
-        ++told.refused;
-      else
-        told.last = figures(i, j, result);
+      pairs.push_back({i, j, numbers::spearman(columns.at(i), columns.at(j))});
+      writeResult(run.report(), pairs.back().result);
+      pairs.back().result.omitted.clear();
     }
   }
-  return true;
+  return pairs;
 }
 
-Text closing(const Told& told) {
-  Text said = decimal(told.pairs) + u"組";
-  if (told.refused > 0) said += u"、うち" + decimal(told.refused) + u"組わＮ＜２のため計算不能";
-  said += u"。";
-  if (told.pairs - told.refused == 1) said += told.last;
+Text closing(const std::vector<Pair>& pairs) {
+  Text said;
+  if (pairs.size() <= kPairsTold)
+    for (const Pair& pair : pairs) said += spokenPair(pair);
+  else
+    said = decimal(static_cast<std::int64_t>(pairs.size())) + u"組。";
   return said + finishedSentence(kTitle);
 }
 
@@ -112,11 +113,12 @@ void runSpearman(Form& form, ItemRun run1, ItemRun run2, TextView folder, bool a
                          u"記録");
   Items all = group1;
   all.insert(all.end(), group2.begin(), group2.end());
-  const auto columns = readColumns(all, kTitle);
-  Told told;
-  if (columns) run.compute(kTitle, static_cast<std::int64_t>(group1.size() * group2.size()));
-  if (columns && writePairs(run, *columns, group1, group2, told)) {
-    run.finish(form, closing(told));
+  const std::size_t count = group1.size() * group2.size();
+  run.compute(kTitle, static_cast<std::int64_t>(count));
+  std::vector<Pair> pairs;
+  if (const auto columns = readColumns(all, kTitle)) pairs = writePairs(run, *columns, group1, group2);
+  if (pairs.size() == count) {
+    run.finish(form, closing(pairs));
     return;
   }
   host().beep();

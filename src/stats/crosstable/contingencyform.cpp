@@ -168,7 +168,7 @@ void frmRCkai::compute() {
   const auto table = counts();
   isWhole_ = table.has_value();
   test_ = table ? nmchiphi(*table) : numbers::ContingencyTest();
-  isNews_ = test_.valid;
+  isNews_ = isWhole_;
   simulated_.clear();
   Label11.setCaption({});
   Label13.setCaption({});

@@ -5,6 +5,7 @@
 #include "platform/text/format.h"
 #include "platform/text/number.h"
 #include "stats/correlation/itemform.h"
+#include "stats/correlation/pairwords.h"
 #include "stats/crosstable/crosslines.h"
 #include "stats/crosstable/simulation.h"
 #include "stats/frame/analysis.h"
@@ -21,8 +22,6 @@ namespace {
 constexpr TextView kTitle = u"クロス集計";
 // More records than the four kinds of cells (in the square, without one or the other category) can count.
 constexpr std::int32_t kMostRecords = 4 * 32767;
-// So many pairs are told with their figures; of more only how many there were.
-constexpr std::size_t kPairsTold = 10;
 
 TextView nameOf(std::int16_t item) { return itemName[static_cast<std::size_t>(item)]; }
 
@@ -71,7 +70,7 @@ void CrossReport::writePair(std::int16_t i, std::int16_t j) {
 
 Text spokenResult(const PairDone& pair) {
   const numbers::CrossTest& test = pair.test;
-  Text said = u"項目" + decimal(pair.i) + u"と" + decimal(pair.j) + markPause;
+  Text said = pairWords(pair.i, pair.j) + markPause;
   if (!pair.hasResult()) return said + u"ｶｲ検定不能。";
   said += u"ｶｲ自乗値" + format(test.chi, u"0.00") + u"、自由度" + decimal(test.df) + u"、連関値" +
           format(test.phi, u"0.000") + u"、確率" + spokenP(test.p) + u"。";
@@ -97,9 +96,9 @@ void runCross(frmRP& form, const ItemList& group1, const ItemList& group2) {
   if (lastRecord - firstRecord >= kMostRecords) numbers::stop(kTitle, kOverflow);
   ItemList all = group1;
   all.insert(all.end(), group2.begin(), group2.end());
+  run.compute(kTitle, static_cast<std::int64_t>(group1.size() * group2.size()));
   const auto columns = readColumns(all, kTitle);
   if (!columns) return run.stop();
-  run.compute(kTitle, static_cast<std::int64_t>(group1.size() * group2.size()));
   CrossReport report(run, *columns);
   if (!report.write(group1, group2)) return run.stop();
   run.finish(form, report.closing(), true);
