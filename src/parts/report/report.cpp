@@ -51,11 +51,16 @@ void Report::line(TextView text) {
   if (printLine(file_.number(), text) != FileError::none) failed_ = true;
 }
 
-void Report::head(TextView title) {
+Text fileLine() { return u"ﾌｧｲﾙ名:" + tableName(); }
+
+Text timeLine() {
   const DateTime now = host().now();
+  return PrintLine().text(shortDate(now)).zone().text(shortTime(now)).line();
+}
+
+void Report::head(TextView title) {
   head_.clear();
-  const Text when = PrintLine().text(shortDate(now)).zone().text(shortTime(now)).line();
-  for (const Text& text : {Text(title), u"ﾌｧｲﾙ名:" + tableName(), when}) {
+  for (const Text& text : {Text(title), fileLine(), timeLine()}) {
     line(text);
     head_ += text + kLineEnd;
   }
