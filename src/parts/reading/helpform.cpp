@@ -27,6 +27,11 @@ frmHelp::frmHelp() : Form(kName, u"ﾍﾙﾌﾟ") {
   Command3.onClick = [this] { reading_.showResults ? reading_.showResults() : host().beep(); };
   Command4.onClick = [this] { screen().unload(*this); };
   RichTextBox1.onKeyDown = [this](KeyEvent&) { reader_.keyDown(); };
+  onKeyDown = [this](KeyEvent& key) {
+    if (result_.empty() || !key.is(key::PageDown, shift::Ctrl)) return;
+    key.swallow();
+    talkGated(result_);
+  };
   narrate();
   // While work goes on its questions come and go in front of this window: it is seen, and says nothing.
   RichTextBox1.onGotFocus = [this, spoken = RichTextBox1.onGotFocus] {

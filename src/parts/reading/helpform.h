@@ -31,6 +31,8 @@ class frmHelp : public Form {
   Button Command4{*this, u"Command4", u"終了(esc)"};
 
   void take(const Reading& reading);
+  // Said with Ctrl+PageDown as often as it is asked for; empty for none.
+  void setResult(TextView sentence) { result_ = sentence; }
   // A line at the end of the text while work goes on, without a word; the buttons are disabled meanwhile.
   void addLine(TextView line);
   void setBusy(bool busy);
@@ -43,6 +45,7 @@ class frmHelp : public Form {
 
   LineReader reader_{RichTextBox1, {}};
   Reading reading_;
+  Text result_;
   bool busy_ = false;
 };
 

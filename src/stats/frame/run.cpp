@@ -136,20 +136,23 @@ bool AnalysisRun::finish(Form& form, const Text& closing, bool repeats) {
   const Text said = closing.empty() ? finishedSentence(title_) : closing;
   if (!repeats) {
     waitPastGate();
-    showWindow(said);
+    showWindow(said, said);
     return true;
   }
   {
     const Silence silence;
-    showWindow({});
+    showWindow({}, said);
   }
   showRepeat(said);
   return true;
 }
 
-void AnalysisRun::showWindow(const Text& opening) {
-  if (window_) return showResultWindow(report_.path(), title_, opening, *window_);
-  showResultWindow(report_.path(), title_, opening, report_.written());
+void AnalysisRun::showWindow(const Text& opening, const Text& result) {
+  if (window_)
+    showResultWindow(report_.path(), title_, opening, *window_);
+  else
+    showResultWindow(report_.path(), title_, opening, report_.written());
+  if (frmHelp* window = loadedForm<frmHelp>()) window->setResult(result);
 }
 
 void AnalysisRun::refuse() {

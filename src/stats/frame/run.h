@@ -59,7 +59,7 @@ class AnalysisRun {
 
  private:
   void closeDialogs();
-  void showWindow(const Text& opening);
+  void showWindow(const Text& opening, const Text& result);
 
   Text title_;
   std::optional<Text> window_;  // what it shows where it differs from the file
