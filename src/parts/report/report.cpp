@@ -1,6 +1,7 @@
 #include "parts/report/report.h"
 
 #include "parts/disk/filewords.h"
+#include "platform/files/workfiles.h"
 #include "platform/host.h"
 #include "platform/text/daytime.h"
 #include "store/table/description.h"
@@ -39,6 +40,10 @@ bool Report::open(TextView folder, bool anew) {
   written_ = 0;
   if (isFileOfTable(path_)) {
     tellFailure(u"このフォルダのKEKKA.TXTは、表のﾌｧｲﾙです。別のフォルダを指定してください", kTitle);
+    return false;
+  }
+  if (isLink(path_)) {
+    tellFailure(u"このフォルダのKEKKA.TXTは、別の場所のﾌｧｲﾙへのﾘﾝｸです。別のフォルダを指定してください", kTitle);
     return false;
   }
   if ((anew ? file_.openOutput(path_) : file_.openAppend(path_)) == FileError::none) return true;
