@@ -152,7 +152,14 @@ void AnalysisRun::showWindow(const Text& opening, const Text& result) {
     showResultWindow(report_.path(), title_, opening, *window_);
   else
     showResultWindow(report_.path(), title_, opening, report_.written());
-  if (frmHelp* window = loadedForm<frmHelp>()) window->setResult(result);
+  frmHelp* window = loadedForm<frmHelp>();
+  if (!window) return;
+  window->setResult(result);
+  if (window_ || !names_) return;
+  const std::size_t shown = window->RichTextBox1.content().size(), before = shown - std::min(shown, report_.written());
+  window->setNames([names = names_, before](TextView name, std::size_t position) {
+    return position < before ? Text() : names(name, position - before);
+  });
 }
 
 void AnalysisRun::refuse() {
