@@ -8,7 +8,9 @@
 #include "files/start/help.h"
 #include "files/start/startscreen.h"
 #include "stats/calculators/calculatorform.h"
+#include "stats/cluster/registercluster.h"
 #include "stats/correlation/registercorrelation.h"
+#include "stats/factor/factorrun.h"
 #include "stats/frame/registerframe.h"
 #include "stats/frequency/registerfrequency.h"
 #include "stats/twogroups/tform.h"
@@ -43,6 +45,8 @@ void wireProgram() {
   registerUForm();
   registerFrequency();
   registerCorrelation();
+  registerFactor();
+  registerCluster();
   narrateMenus();
 }
 

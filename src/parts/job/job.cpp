@@ -44,7 +44,10 @@ bool beginJob(bool changes, bool storesBox) {
   }
   if (changes && refusedAsReadOnly()) return false;
   editorHooks.storeTyped(storesBox);
-  return flushRec();
+  // With the box the row was stored too: who held it back is not asked again.
+  const bool stored = !(storesBox && storeWasHeldBack()) && flushRec();
+  if (!stored) host().beep();  // where the reason was told before, nothing else is heard
+  return stored;
 }
 
 void endJob(JobEnd end, bool keepsRange, const Text& said, const std::function<void()>& tellFailure) {
