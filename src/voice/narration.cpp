@@ -118,7 +118,11 @@ Narration& Narration::box(TextBox& textBox, TextView description, bool waits) {
 }
 
 Narration& Narration::check(CheckBox& box, TextView description) {
-  appendHandler(box.onClick, [&box] { talkState(box); });
+  // The new state is news, also right behind the sentence of a box that a click has given the focus.
+  appendHandler(box.onClick, [&box] {
+    nextIsHeard();
+    talkState(box);
+  });
   return say(box, description);
 }
 
