@@ -6,9 +6,11 @@
 #include "files/picker/picker.h"
 #include "files/start/help.h"
 #include "files/start/startscreen.h"
+#include "speech/descriptions.h"
 #include "stats/correlation/registercorrelation.h"
 #include "stats/frame/registerframe.h"
 #include "tablejobs/replace/registerreplace.h"
+#include "voice/describe.h"
 #include "voice/dialogs.h"
 #include "voice/narration.h"
 
@@ -26,6 +28,9 @@ void wireProgram() {
   registerAnalysisFrame();
   registerCorrelation();
   narrateMenus();
+  characterHooks.description = characterDescription;
+  characterHooks.code = characterCode;
+  characterHooks.isKanji = isDescribedKanji;
 }
 
 void startProgram(TextView table) { startFromLunch(table); }
