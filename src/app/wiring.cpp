@@ -1,16 +1,27 @@
 #include "app/wiring.h"
 
 #include "editor/registereditor.h"
+#include "files/csv/csvform.h"
 #include "files/design/design.h"
 #include "files/output/output.h"
 #include "files/picker/picker.h"
 #include "files/start/help.h"
 #include "files/start/startscreen.h"
 #include "speech/descriptions.h"
+#include "stats/calculators/calculatorform.h"
+#include "stats/cluster/registercluster.h"
 #include "stats/correlation/registercorrelation.h"
+#include "stats/factor/factorrun.h"
 #include "stats/frame/registerframe.h"
+#include "stats/frequency/registerfrequency.h"
+#include "stats/twogroups/tform.h"
+#include "stats/twogroups/uform.h"
+#include "tablejobs/blocks/blocks.h"
+#include "tablejobs/extract/form7.h"
 #include "tablejobs/replace/registerreplace.h"
 #include "voice/describe.h"
+#include "tablejobs/search/search.h"
+#include "tablejobs/sort/sortcommands.h"
 #include "voice/dialogs.h"
 #include "voice/narration.h"
 
@@ -24,9 +35,20 @@ void wireProgram() {
   registerHelp();
   registerTableDesign();
   registerOutputFiles();
+  registerCsv();
+  registerSorting();
+  registerBlocks();
+  registerSearch();
+  registerExtraction();
   registerReplacement();
   registerAnalysisFrame();
+  registerCalculators();
+  registerTForm();
+  registerUForm();
+  registerFrequency();
   registerCorrelation();
+  registerFactor();
+  registerCluster();
   narrateMenus();
   characterHooks.description = characterDescription;
   characterHooks.code = characterCode;

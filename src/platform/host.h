@@ -12,6 +12,7 @@
 namespace zelko {
 
 class Form;
+class PictureBox;
 struct MenuEntry;
 
 // Pages of text at positions in twips (1/1440 inch) from the left top corner of the page.
@@ -28,6 +29,9 @@ class Printer {
   // As begin(), for a PDF file of that path in place of paper; needs no printer. False where there is no way to one.
   virtual bool beginFile(TextView /*path*/) { return false; }
   virtual void text(double x, double y, const Font& font, TextView text) = 0;
+  // Ink of a picture, a thin line or an area.
+  virtual void line(double x1, double y1, double x2, double y2) = 0;
+  virtual void area(double x1, double y1, double x2, double y2, Colour colour) = 0;
   virtual double textWidth(const Font& font, TextView text) = 0;
   virtual double textHeight(const Font& font) = 0;
   virtual double pageWidth() = 0;
@@ -90,6 +94,9 @@ class Host {
   virtual void tone(double /*hertz*/, int /*milliseconds*/) { beep(); }
   // Hands a link ("tel:…") to the system; false where nothing takes it.
   virtual bool openLink(TextView /*link*/) { return false; }
+  // Whether saveImage has a way to an image, and a drawing stored as one (PNG); false where the file was not written.
+  virtual bool savesImages() { return false; }
+  virtual bool saveImage(const PictureBox& /*picture*/, TextView /*path*/) { return false; }
   // Width of `text` on the screen, in twips; without a screen 120 for each half-width character.
   virtual int textTwips(TextView text);
 

@@ -26,7 +26,7 @@ struct Job {
 };
 
 // Commands that no row of the menu names, for keys and other forms run them.
-constexpr TextView kElsewhere[] = {u"widenItem", u"narrowItem", u"CVZLKF", u"SVCread"};
+constexpr TextView kElsewhere[] = {u"widenItem", u"narrowItem", u"CVZLKF", u"SVCread", u"csvREAD"};
 
 // Forms that have a say only in a state that a key brings about, and those that several keys lead to.
 constexpr const char* kKeys[] = {"key Shift+Down"};

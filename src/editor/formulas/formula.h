@@ -28,6 +28,8 @@ float applyOp(TextView left, char16_t op, TextView right);
 
 // `message` is empty where the text may be evaluated. The order of operators is not looked at.
 void checkFormula(TextView text, Text& message);
+// The same for the value of a condition: an "@" needs its number, and item 0 is one.
+void checkNumExpression(TextView text, Text& message);
 
 // For forms: nothing where the brackets don't match, and where a step is divided by zero or runs over. A halt passes
 // through.

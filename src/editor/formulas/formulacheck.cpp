@@ -22,16 +22,23 @@ Text complaintOfCharacters(TextView text) {
   return u"許されない文字[" + Text(text.substr(bad, pair ? 2 : 1)) + u"]が使われています";
 }
 
-Text complaintOfItems(TextView text) {
+constexpr TextView kNoNumber = u"@後の項目番号がありません";
+
+bool isItem(TextView digits) {
+  constexpr std::size_t kLongest = 100;  // of a number that is read at all
+  const double item = digits.size() > kLongest ? 0 : val(digits);
+  return item >= 1 && item <= itemCount;
+}
+
+Text complaintOfItems(TextView text, bool condition) {
   for (std::size_t at = text.find(u'@'); at != TextView::npos; at = text.find(u'@', at + 1)) {
     const TextView digits = digitsAt(text, at + 1);
     if (digits.empty()) {
-      if (at + 1 == text.size()) return u"@後の項目番号がありません";
+      if (condition || at + 1 == text.size()) return Text(kNoNumber);
       continue;
     }
-    constexpr std::size_t kLongest = 100;  // of a number that is read at all
-    const double item = digits.size() > kLongest ? 0 : val(digits);
-    if (item < 1 || item > itemCount) return u"@後の項目番号が不正です";
+    if (condition && digits == u"0") continue;
+    if (!isItem(digits)) return u"@後の項目番号が不正です";
   }
   return {};
 }
@@ -49,10 +56,18 @@ Text complaintOfBrackets(Text text) {
 
 }  // namespace
 
-void checkFormula(TextView text, Text& message) {
+namespace {
+
+void check(TextView text, bool condition, Text& message) {
   message = complaintOfCharacters(text);
-  if (message.empty()) message = complaintOfItems(text);
+  if (message.empty()) message = complaintOfItems(text, condition);
   if (message.empty()) message = complaintOfBrackets(Text(text));
 }
+
+}  // namespace
+
+void checkFormula(TextView text, Text& message) { check(text, false, message); }
+
+void checkNumExpression(TextView text, Text& message) { check(text, true, message); }
 
 }  // namespace zelko

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
+#include "editor/main/commands.h"
 #include "editor/main/form1.h"
+#include "platform/host.h"
 #include "platform/text/number.h"
 #include "store/records/records.h"
 #include "store/table/cursor.h"
@@ -11,7 +13,26 @@
 
 namespace zelko {
 
+namespace {
+
+// The searches, as the main form has them.
+void addSearches(Menu& menu) {
+  MenuEntry& bar = menu.add(nullptr, u"mnuschs", u"検索(&E)");
+  menu.add(&bar, u"mnusch", u"検索", key::function(3)).command = [] {
+    recCount() < 1 ? host().beep() : runCommand(u"mnuSEARCH");
+  };
+  const auto add = [&](TextView name, TextView command, TextView caption, int code, int mask) {
+    menu.add(&bar, name, caption, code, mask).command = [command] { runCommand(command); };
+  };
+  add(u"mnuschN", u"mnuSEARCHN", u"次を検索(&N)", 'N', shift::Ctrl);
+  add(u"mnuschP", u"mnuSEARCHP", u"前を検索", 'N', shift::ShiftCtrl);
+  add(u"mnuschC", u"mnuSEARCHC", u"検索件数", 'H', shift::ShiftCtrl);
+}
+
+}  // namespace
+
 frmKOJIND::frmKOJIND() : Form(kName, u"個別記録表示") {
+  addSearches(menu());
   Grid1.setCols(3);
   Grid1.provider = [this](int row, int col) { return cellAtGrid(row, col); };
   Grid1.onRowColChange = [this] {

@@ -2,6 +2,7 @@
 #include "editor/main/commands.h"
 #include "editor/main/form1.h"
 #include "editor/show/view.h"
+#include "files/csv/csvimport.h"
 #include "files/design/design.h"
 #include "files/design/designapply.h"
 #include "files/design/designform.h"
@@ -125,7 +126,9 @@ void frmDESIGN::closeReference() {
   unvisible();
 }
 
-void frmDESIGN::showReference() {
+void frmDESIGN::showReference(bool csvFiles) {
+  listsCsv_ = csvFiles;
+  File1.setPattern(csvFiles ? u"*.csv" : u"k?*.txt");
   boxes_.refresh();
   for (Control* control : {static_cast<Control*>(&Label5), static_cast<Control*>(&Drive1), static_cast<Control*>(&Dir1),
                            static_cast<Control*>(&File1)})
@@ -138,6 +141,7 @@ Text frmDESIGN::chosenTable() const {
 }
 
 Text frmDESIGN::shapeOfChosen() const {
+  if (listsCsv_) return spokenName(File1.fileName());
   const Text name = spokenName(tableOfItemFile(File1.fileName()));
   TableDescription table;
   if (readDescription(pathIn(File1.path(), File1.fileName()), table) != ReadResult::ok)
@@ -167,7 +171,7 @@ bool frmDESIGN::readKToDesign(TextView path, TextView drive) {
 }
 
 void frmDESIGN::frmDESIGN_Command3_Click() {
-  if (!File1.visible()) return showReference();
+  if (!File1.visible() || listsCsv_) return showReference(false);
   const Text table = chosenTable();
   Text drive, path, report;
   splitName(table, drive, path);
@@ -210,6 +214,7 @@ void changeDesign() {
 void designForCsv() {
   if (!commandOf(u"csvREAD")) return host().beep();
   storeEditedTable();
+  csvSurveyed = {};
   const Text before = mode;
   if (!showTableDesign(DesignFor::csv)) {
     mode = before;
@@ -220,7 +225,9 @@ void designForCsv() {
   const Form1* main = loadedForm<Form1>();
   if (!main || !main->visible()) enterEditor();
   picker->take(PickFor::csv);
+  if (!csvSurveyed.file.empty()) picker->choose(csvSurveyed.file);
   picker->activate();
+  picker->sayJob();
 }
 
 }  // namespace

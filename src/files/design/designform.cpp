@@ -55,6 +55,7 @@ void frmDESIGN::take(DesignFor purpose) {
   purpose_ = purpose;
   mode = word_ = kWords[static_cast<std::size_t>(purpose)];
   changesTable_ = purpose == DesignFor::openTable && !docPath.empty();
+  Command4.setVisible(purpose == DesignFor::csv);
   if (!changesTable_) return;
   cells_.reshape([this] { startFromTable(); });
   cells_.enter(1, static_cast<int>(DesignColumn::name));
@@ -136,14 +137,14 @@ void frmDESIGN::wireCells() {
 }
 
 void frmDESIGN::wireReference() {
-  File1.setPattern(u"k?*.txt");
-  boxes_.shownName = tableOfItemFile;
+  boxes_.shownName = [this](TextView listed) { return listsCsv_ ? Text(listed) : tableOfItemFile(listed); };
   File1.onClick = [this] { frmDESIGN_File1_Click(); };
-  File1.onDblClick = [this] { frmDESIGN_Command3_Click(); };
-  File1.onKeyPress = [this](CharEvent& event) {
+  const auto takeChosen = [this] { listsCsv_ ? frmDESIGN_Command4_Click() : frmDESIGN_Command3_Click(); };
+  File1.onDblClick = takeChosen;
+  File1.onKeyPress = [takeChosen](CharEvent& event) {
     if (event.ch != key::Enter) return;
     event.ch = 0;
-    frmDESIGN_Command3_Click();
+    takeChosen();
   };
 }
 
@@ -151,6 +152,8 @@ void frmDESIGN::wireButtons() {
   Command1.onClick = [this] { frmDESIGN_Command1_Click(); };
   Command2.onClick = [this] { frmDESIGN_Command2_Click(); };
   Command3.onClick = [this] { frmDESIGN_Command3_Click(); };
+  Command4.onClick = [this] { frmDESIGN_Command4_Click(); };
+  Command4.setVisible(false);
   Command2.isCancel = true;
 }
 
@@ -168,9 +171,15 @@ void frmDESIGN::narrate() {
   });
   voice.say(Command1, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ。" + Label8.caption()).say(Command2, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ");
   voice.say(Command3, [this]() -> Text {
-    if (File1.visible())
+    if (File1.visible() && !listsCsv_)
       return u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ。選択したファイルの　項目設定を　項目区切り設定ヒョウに写し、リストを閉じます。";
     return u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ。他のファイルの　項目設定を参照する　ファイルリストを開きます。";
+  });
+  voice.say(Command4, [this]() -> Text {
+    if (File1.visible() && listsCsv_)
+      return u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ。選択したＣＳＶファイルを調べて、項目名と　項目幅を　項目区切り設定ヒョウに書き、リストを閉じ"
+             u"ます。";
+    return u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ。項目名と　項目幅を　決めるための　ＣＳＶファイルの　リストを開きます。";
   });
 }
 

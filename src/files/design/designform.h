@@ -34,6 +34,7 @@ class frmDESIGN : public Form {
   Button Command1{*this, u"Command1", u"決定"};
   Button Command2{*this, u"Command2", u"中止(ESC)"};
   Button Command3{*this, u"Command3", u"他ﾌｧｲﾙ参照.on/off"};
+  Button Command4{*this, u"Command4", u"CSVﾌｧｲﾙから項目名と項目幅を提案"};  // where the items of one are designed
   Label Label5{*this, u"Label5", u"項目ﾃﾞｻﾞｲﾝ参考ﾌｧｲﾙの指定"};
   DriveBox Drive1{*this, u"Drive1"};
   FolderBox Dir1{*this, u"Dir1"};
@@ -68,6 +69,7 @@ class frmDESIGN : public Form {
   void frmDESIGN_Command1_Click();
   void frmDESIGN_Command2_Click();
   void frmDESIGN_Command3_Click();
+  void frmDESIGN_Command4_Click();
 
   // The writing cell.
   static CellRules cellRules();
@@ -95,10 +97,11 @@ class frmDESIGN : public Form {
 
   // The reference boxes.
   void unvisible();
-  void showReference();
+  void showReference(bool csvFiles);
   void closeReference();
   Text chosenTable() const;
   Text shapeOfChosen() const;
+  void proposeFrom(const Text& csvFile);
 
   DiskBoxes boxes_{Drive1, Dir1, File1};
   CellEditor cells_{Grid1, itemin, &Label9, cellRules()};
@@ -107,6 +110,7 @@ class frmDESIGN : public Form {
   Text lastCount_, lastMemo_, lastFile_;  // the boxes at their last change
   DesignFor purpose_ = DesignFor::newTable;
   Text word_;                  // published in `mode`
+  bool listsCsv_ = false;      // the boxes show CSV files, not tables
   bool changesTable_ = false;  // the design of the open table is being changed
   bool opened_ = false;        // the opening sentence is said
   bool marked_ = false;        // the whole text of the box is marked: what is typed replaces it

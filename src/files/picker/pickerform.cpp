@@ -1,10 +1,13 @@
 // What the picker is made of, and how its controls speak.
 #include "files/picker/pickerform.h"
 
+#include <algorithm>
+
 #include "files/picker/pickerwords.h"
 #include "parts/disk/filewords.h"
 #include "platform/host.h"
 #include "store/table/cursor.h"
+#include "voice/dialogs.h"
 #include "voice/talk.h"
 
 namespace zelko {
@@ -41,6 +44,8 @@ void frmDISK::writeHints() {
   Dir1.place = Place::sameRow;
   Text1.screenName = u"選択ﾌｧｲﾙ名";
   Label2.place = Place::newRow;
+  Check1.place = Place::newRow;
+  Check1.setValue(1);
   Command1.place = Place::newRow;
   Text2.place = Place::newRow;
   File1.labelledBy = &Label2;
@@ -76,6 +81,7 @@ void frmDISK::narrate() {
   voice.explain([this] { return pickerHelp(*job_); });
   boxes_.narrate(voice);
   voice.say(File1, listSentence).say(List1, listSentence).box(Text1, u"選択ﾌｧｲﾙ名ﾃｷｽﾄﾎﾞｯｸｽ");
+  voice.check(Check1, u"ﾁｪｯｸﾎﾞｯｸｽ");
   for (Button* button : {&Command1, &Command2, &Command3, &Command4, &cmdNOTZLK}) voice.say(*button, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ");
 }
 
@@ -99,11 +105,30 @@ void frmDISK::dress() {
     control->setVisible(choosesTable || allFiles);
   for (Control* control : {static_cast<Control*>(&Command2), static_cast<Control*>(&Text2)})
     control->setVisible(choosesTable || purpose == PickFor::csv);
+  Check1.setVisible(purpose == PickFor::csv);
   File1.setPattern(job_->pattern);
   File1.setVisible(purpose != PickFor::reference);
   List1.setVisible(purpose == PickFor::reference);
   fillList1();
   Text1.setText({});
+}
+
+void frmDISK::choose(const Text& file) {
+  const Silence silence;
+  const std::size_t name = file.rfind(u'/') + 1;
+  boxes_.open(file.substr(0, name));
+  const auto& entries = File1.entries();
+  const auto found = std::ranges::find(entries, TextView(file).substr(name));
+  if (found == entries.end()) return;
+  File1.setListIndex(static_cast<int>(found - entries.begin()));
+  Text1.setText(*found);
+  File1.setFocus();
+}
+
+void frmDISK::sayJob() const {
+  const Text marked = ownName(chosenEntry());
+  const Text file = list().count() == 0 ? Text(kNoFileHere) : spokenName(marked);
+  talkBehindDialog(Label2.caption() + markPause + Text(job_->prompt) + file + u"ﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽ");
 }
 
 void frmDISK::fillList1() {

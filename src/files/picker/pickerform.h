@@ -21,6 +21,7 @@ class frmDISK : public Form {
   FileBox File1{*this, u"File1"};
   ListBox List1{*this, u"List1"};  // takes the part of File1 for reference tables, under their own names
   TextBox Text1{*this, u"Text1"};  // the chosen name
+  CheckBox Check1{*this, u"Check1", u"引用符内のコンマと改行を保護"};  // for CSV files only
   Button Command1{*this, u"Command1", u"読み込み(CR)"};
   Button Command3{*this, u"Command3", u"中止(ESC)"};
   Button Command4{*this, u"Command4", u"フォルダ作成(&F)"};
@@ -31,6 +32,10 @@ class frmDISK : public Form {
 
   // Takes on a job: captions, pattern, which buttons there are.
   void take(PickFor purpose);
+  // Chooses that file in its folder, without a word, where the list has it.
+  void choose(const Text& file);
+  // Says what is to be chosen, and what is marked, behind the form that has just closed.
+  void sayJob() const;
   // The full name of the chosen file, of a table its data file; empty where nothing is selected.
   Text chosenFile() const;
 

@@ -20,6 +20,8 @@ class Report {
   void line(const PrintLine& pieces) { line(pieces.line()); }
   // Title, file name, date and time of a report on the open table.
   void head(TextView title);
+  // The lines of that head.
+  const Text& headText() const { return head_; }
   // False after a message where not all of it reached the file.
   bool close();
   const Text& path() const { return path_; }
@@ -27,11 +29,15 @@ class Report {
   std::size_t written() const { return written_; }
 
  private:
-  Text path_;
+  Text path_, head_;
   OwnedFile file_;
   std::size_t written_ = 0;
   bool failed_ = false;
 };
+
+// The second and the third line of that head, for reports that order theirs otherwise.
+Text fileLine();
+Text timeLine();
 
 // The two forms of the line that tells which records a report covers.
 PrintLine recordsOfAccess(std::int32_t first, std::int32_t last);

@@ -1,6 +1,7 @@
 #include "platform/headless/recorders.h"
 
 #include <cstdio>
+#include <initializer_list>
 #include <utility>
 
 #include "platform/text/sjis.h"
@@ -16,6 +17,12 @@ std::string lineEndsApart(std::string_view bytes) {
     else
       shown += byte;
   }
+  return shown;
+}
+
+std::string places(std::initializer_list<double> values) {
+  std::string shown;
+  for (const double value : values) shown += (shown.empty() ? "" : " ") + shownNumber(value);
   return shown;
 }
 
@@ -73,6 +80,16 @@ void RecordingPrinter::text(double x, double y, const Font& font, TextView text)
   if (font.underline) line += " underline";
   if (font.strike) line += " strike";
   transcript_(line + " " + oneLine(text));
+}
+
+void RecordingPrinter::line(double x1, double y1, double x2, double y2) {
+  announcePage();
+  transcript_("print line " + places({x1, y1, x2, y2}));
+}
+
+void RecordingPrinter::area(double x1, double y1, double x2, double y2, Colour) {
+  announcePage();
+  transcript_("print area " + places({x1, y1, x2, y2}));
 }
 
 double RecordingPrinter::textWidth(const Font& font, TextView text) {

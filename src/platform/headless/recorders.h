@@ -24,6 +24,8 @@ class RecordingPrinter : public Printer {
   bool begin() override;
   bool beginFile(TextView path) override;
   void text(double x, double y, const Font& font, TextView text) override;
+  void line(double x1, double y1, double x2, double y2) override;
+  void area(double x1, double y1, double x2, double y2, Colour colour) override;
   double textWidth(const Font& font, TextView text) override;
   double textHeight(const Font& font) override { return font.size * 20; }
   double pageWidth() override { return 11906; }

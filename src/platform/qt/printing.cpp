@@ -6,6 +6,7 @@
 #include <QPrinterInfo>
 
 #include "platform/qt/qstring.h"
+#include "platform/qt/strokes.h"
 
 namespace zelko {
 
@@ -14,6 +15,7 @@ namespace {
 // Every tenth of a point is a whole dot at this resolution, so that no font is rounded to another width.
 constexpr int kDotsPerInch = 720;
 constexpr double kTwipsPerDot = 1440.0 / kDotsPerInch;
+constexpr double kLineDots = 7;  // half a point and a bit
 
 QFont nativeFont(const Printer::Font& font) {
   QFont native(toQt(font.name));
@@ -68,6 +70,18 @@ void QtPrinter::text(double x, double y, const Font& font, TextView text) {
   painter_.setFont(native);
   const double ascent = QFontMetricsF(native, &device()).ascent();
   painter_.drawText(QPointF(x / kTwipsPerDot, y / kTwipsPerDot + ascent), toQt(text));
+}
+
+void QtPrinter::line(double x1, double y1, double x2, double y2) {
+  if (!paints()) return;
+  painter_.setPen(QPen(Qt::black, kLineDots));
+  painter_.drawLine(QPointF(x1, y1) / kTwipsPerDot, QPointF(x2, y2) / kTwipsPerDot);
+}
+
+void QtPrinter::area(double x1, double y1, double x2, double y2, Colour colour) {
+  if (!paints()) return;
+  const QRectF place = QRectF(QPointF(x1, y1) / kTwipsPerDot, QPointF(x2, y2) / kTwipsPerDot).normalized();
+  painter_.fillRect(place, colourOf(colour));
 }
 
 double QtPrinter::textWidth(const Font& font, TextView text) {

@@ -14,6 +14,8 @@ class QtPrinter : public Printer {
   bool begin() override;
   bool beginFile(TextView path) override;
   void text(double x, double y, const Font& font, TextView text) override;
+  void line(double x1, double y1, double x2, double y2) override;
+  void area(double x1, double y1, double x2, double y2, Colour colour) override;
   double textWidth(const Font& font, TextView text) override;
   double textHeight(const Font& font) override;
   double pageWidth() override;

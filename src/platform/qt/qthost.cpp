@@ -11,6 +11,7 @@
 #include "platform/qt/clipboard.h"
 #include "platform/qt/desktop.h"
 #include "platform/qt/qstring.h"
+#include "platform/qt/strokes.h"
 #include "platform/serialport.h"
 
 namespace zelko {
@@ -199,6 +200,8 @@ DateTime QtHost::now() {
 std::uint32_t QtHost::randomBits() { return static_cast<std::uint32_t>(random_()); }
 
 void QtHost::beep() { QApplication::beep(); }
+
+bool QtHost::saveImage(const PictureBox& picture, TextView path) { return savePng(picture, path); }
 
 bool QtHost::clipboardText(Text& out) { return readClipboard(out); }
 bool QtHost::clearClipboard() { return emptyClipboard(); }

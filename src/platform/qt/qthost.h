@@ -57,6 +57,8 @@ class QtHost : public Host {
   DateTime now() override;
   std::uint32_t randomBits() override;
   void beep() override;
+  bool savesImages() override { return true; }
+  bool saveImage(const PictureBox& picture, TextView path) override;
 
   bool clipboardText(Text& out) override;
   bool clearClipboard() override;

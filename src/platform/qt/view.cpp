@@ -22,11 +22,12 @@ namespace {
 constexpr int kLongestLabelLine = 48;   // characters
 constexpr int kLongestButtonLine = 20;  // characters
 
-// A long caption stands in two lines, parted where it names two things, else in the middle.
+// A long caption stands in several lines, parted where it names two things, else in the middle.
 QString folded(QString caption) {
   if (caption.size() <= kLongestButtonLine) return caption;
   const qsizetype slash = caption.indexOf(u'/');
-  return caption.insert(slash >= 0 ? slash + 1 : caption.size() / 2, u'\n');
+  const qsizetype cut = slash >= 0 && slash + 1 < caption.size() ? slash + 1 : caption.size() / 2;
+  return folded(caption.left(cut)) + u'\n' + folded(caption.mid(cut));
 }
 
 // A text that asks for a line as long as it is, within bounds, and wraps where there is less room.

@@ -1,55 +1,14 @@
 // Pictures: the strokes of the model, painted in the size of the font.
 #include <QPainter>
-#include <algorithm>
 
 #include "platform/forms/grid.h"
 #include "platform/qt/qstring.h"
+#include "platform/qt/strokes.h"
 #include "platform/qt/view.h"
 
 namespace zelko {
 
 namespace {
-
-using Operation = PictureBox::Operation;
-using Stroke = PictureBox::Stroke;
-
-QPointF lowestPoint(const Operation& o) {
-  if (o.stroke == Stroke::circle) return {o.x1 + o.x2, o.y1 + o.x2};
-  if (o.stroke == Stroke::text) return {o.x1 + 120.0 * static_cast<double>(o.text.size()), o.y1 + 300};
-  return {std::max(o.x1, o.x2), std::max(o.y1, o.y2)};
-}
-
-void paint(QPainter& painter, const Operation& o) {
-  const QColor colour = o.colour == kDesktopColour
-                            ? painter.pen().color()
-                            : QColor(o.colour & 0xFF, (o.colour >> 8) & 0xFF, (o.colour >> 16) & 0xFF);
-  painter.save();
-  QPen pen(colour, 2);
-  pen.setCosmetic(true);
-  painter.setPen(pen);
-  const QRectF box = QRectF(QPointF(o.x1, o.y1), QPointF(o.x2, o.y2)).normalized();
-  switch (o.stroke) {
-    case Stroke::line:
-      painter.drawLine(QPointF(o.x1, o.y1), QPointF(o.x2, o.y2));
-      break;
-    case Stroke::box:
-      painter.drawRect(box);
-      break;
-    case Stroke::filledBox:
-      painter.fillRect(box, colour);
-      break;
-    case Stroke::circle:
-      painter.drawEllipse(QPointF(o.x1, o.y1), o.x2, o.x2);
-      break;
-    case Stroke::text: {
-      const QPointF at = painter.transform().map(QPointF(o.x1, o.y1));
-      painter.resetTransform();
-      painter.drawText(at + QPointF(0, painter.fontMetrics().ascent()), toQt(o.text));
-      break;
-    }
-  }
-  painter.restore();
-}
 
 class Picture : public QWidget {
  public:
@@ -61,11 +20,9 @@ class Picture : public QWidget {
     const int tile = fontMetrics().height() * 2;
     QSize size(tile * 2, tile);
     if (!box_) return size;
-    const double k = pixelsPerTwip(*this);
-    for (const Operation& operation : box_->operations()) {
-      const QPointF low = lowestPoint(operation) * k;
-      size = size.expandedTo({static_cast<int>(low.x()) + 4, static_cast<int>(low.y()) + 4});
-    }
+    const QSizeF drawn = drawingSize(*box_) * pixelsPerTwip(*this);
+    if (!drawn.isEmpty())
+      size = size.expandedTo({static_cast<int>(drawn.width()) + 4, static_cast<int>(drawn.height()) + 4});
     return size;
   }
   void detach() { box_ = nullptr; }
@@ -80,7 +37,7 @@ class Picture : public QWidget {
     painter.setPen(Qt::black);
     const double k = pixelsPerTwip(*this);
     painter.scale(k, k);
-    for (const Operation& operation : box_->operations()) paint(painter, operation);
+    paintDrawing(painter, *box_);
   }
 
  private:

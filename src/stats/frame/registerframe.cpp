@@ -1,6 +1,7 @@
 #include "stats/frame/registerframe.h"
 
 #include "platform/forms/form.h"
+#include "stats/frame/datacheckform.h"
 #include "stats/frame/outputfolder.h"
 #include "stats/frame/resultviewer.h"
 #include "voice/narration.h"
@@ -8,6 +9,7 @@
 namespace zelko {
 
 void registerAnalysisFrame() {
+  registerDataCheck();
   registerForm<frmOUTF>();
   registerResultViewer();
 }

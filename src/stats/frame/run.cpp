@@ -26,6 +26,17 @@ Text& lastFile() {
   return path;
 }
 
+void openResult(const Text& path, const Text& title, const Text& opening, const Text& text, std::size_t caret) {
+  frmHelp& window = openReading({.caption = title,
+                                 .text = text,
+                                 .report = true,
+                                 .opening = opening,
+                                 .save = [title](const Text& shown) { saveTextAs(shown, title + u".txt"); },
+                                 .showResults = [path] { showResultViewer(path); }});
+  window.RichTextBox1.setSelection(static_cast<int>(caret), 0);
+  window.show();
+}
+
 }  // namespace
 
 Text finishedSentence(TextView title) { return Text(title) + Text(kFinished); }
@@ -50,14 +61,28 @@ bool AnalysisRun::begin(TextView folder, bool anew, TextView reportTitle) {
 
 bool AnalysisRun::begin(TextView reportTitle) { return begin(resultFolder(), resultIsNew(), reportTitle); }
 
-void AnalysisRun::compute(TextView work, std::int64_t steps) {
+void AnalysisRun::windowLine(TextView line) {
+  if (!window_) window_ = report_.headText();
+  *window_ += Text(line) + kLineEnd;
+}
+
+bool AnalysisRun::beginBare() {
+  begun_ = report_.open(resultFolder(), resultIsNew());
+  return begun_;
+}
+
+void AnalysisRun::openWindow() {
+  if (windowOpen_) return;
   const Silence silence;
-  if (!windowOpen_) {
-    frmHelp& window = openReading({.caption = title_, .text = {}, .report = true});
-    window.setBusy(true);
-    window.show();
-    windowOpen_ = true;
-  }
+  frmHelp& window = openReading({.caption = title_, .text = {}, .report = true});
+  window.setBusy(true);
+  window.show();
+  windowOpen_ = true;
+}
+
+void AnalysisRun::compute(TextView work, std::int64_t steps) {
+  openWindow();
+  const Silence silence;
   progress_.reset();
   progress_.emplace(work, steps);
 }
@@ -68,6 +93,20 @@ bool AnalysisRun::step(std::int64_t done) {
     analysisMode = u"BREAK";
   }
   return !stopped_;
+}
+
+void AnalysisRun::rest() {
+  const Silence silence;
+  progress_.reset();
+}
+
+void AnalysisRun::lines(const std::vector<Text>& lines) {
+  Text block;
+  for (const Text& line : lines) {
+    report_.line(line);
+    block += (block.empty() ? Text() : Text(kLineEnd)) + line;
+  }
+  if (frmHelp* window = loadedForm<frmHelp>()) window->addLine(block);
 }
 
 void AnalysisRun::tell(TextView line) {
@@ -97,15 +136,20 @@ bool AnalysisRun::finish(Form& form, const Text& closing, bool repeats) {
   const Text said = closing.empty() ? finishedSentence(title_) : closing;
   if (!repeats) {
     waitPastGate();
-    showResultWindow(report_.path(), title_, said, report_.written());
+    showWindow(said);
     return true;
   }
   {
     const Silence silence;
-    showResultWindow(report_.path(), title_, {}, report_.written());
+    showWindow({});
   }
   showRepeat(said);
   return true;
+}
+
+void AnalysisRun::showWindow(const Text& opening) {
+  if (window_) return showResultWindow(report_.path(), title_, opening, *window_);
+  showResultWindow(report_.path(), title_, opening, report_.written());
 }
 
 void AnalysisRun::refuse() {
@@ -126,14 +170,11 @@ void AnalysisRun::stop() {
 void showResultWindow(const Text& path, const Text& title, const Text& opening, std::size_t fromEnd) {
   const auto text = readTextFile(path);
   if (!text) return tellFailure(spokenName(path) + u"が読めません", u"KEKKA.TXT");
-  frmHelp& window = openReading({.caption = title,
-                                 .text = *text,
-                                 .report = true,
-                                 .opening = opening,
-                                 .save = [title](const Text& shown) { saveTextAs(shown, title + u".txt"); },
-                                 .showResults = [path] { showResultViewer(path); }});
-  window.RichTextBox1.setSelection(static_cast<int>(text->size() - std::min(text->size(), fromEnd)), 0);
-  window.show();
+  openResult(path, title, opening, *text, text->size() - std::min(text->size(), fromEnd));
+}
+
+void showResultWindow(const Text& path, const Text& title, const Text& opening, const Text& text) {
+  openResult(path, title, opening, text, 0);
 }
 
 }  // namespace zelko

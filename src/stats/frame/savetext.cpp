@@ -16,21 +16,21 @@ namespace {
 
 constexpr TextView kTitle = u"保存";
 
-bool mayReplace(const Text& path) {
+}  // namespace
+
+bool mayReplaceFile(const Text& path, TextView title) {
   if (isOwnName(path) || fileExists(itemFilePath(path, {}))) {
-    tellFailure(spokenName(path) + u"は、表かプログラムのﾌｧｲﾙです。別の名前にしてください", kTitle);
+    tellFailure(spokenName(path) + u"は、表かプログラムのﾌｧｲﾙです。別の名前にしてください", title);
     return false;
   }
-  return !fileExists(path) || askYesNo(spokenName(path) + u"はすでにあります。上書きしますか", kTitle);
+  return !fileExists(path) || askYesNo(spokenName(path) + u"はすでにあります。上書きしますか", title);
 }
-
-}  // namespace
 
 void saveTextAs(TextView text, TextView preset) {
   const Text answer = trimmed(talkAsk(u"保存するﾌｧｲﾙの名前を入力してください", kTitle, preset));
   if (answer.empty()) return;
   const Text path = answer.front() == u'/' ? answer : pathIn(resultFolder(), answer);
-  if (!mayReplace(path)) return;
+  if (!mayReplaceFile(path, kTitle)) return;
   if (!writeTextFile(path, text)) return tellFailure(spokenName(path) + u"に保存できません", kTitle);
   talkBehindDialog(spokenName(path) + u"に保存しました");
 }

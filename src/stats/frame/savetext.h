@@ -9,4 +9,8 @@ namespace zelko {
 // question only; a file of the program or of a table is refused. What came of it is said.
 void saveTextAs(TextView text, TextView preset);
 
+// Whether a file of that name may be written: one of the program or of a table is refused (told), one that stands there
+// is asked about.
+bool mayReplaceFile(const Text& path, TextView title);
+
 }  // namespace zelko

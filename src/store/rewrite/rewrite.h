@@ -12,7 +12,8 @@ enum class RewriteEnd {
   done,
   stopped,  // by the user; the table is as it was
   failed,   // a file could not be made, written or put in its place; nothing told
-  refused,  // an interrupted rewrite stands in the way, and the user was told; the table is as it was
+  refused,  // told: an interrupted rewrite stands in the way, or another program replaced the table meanwhile, which
+            // is as it was
 };
 
 // Asked on the way with the number of records that are done; false stops the work. Asked at each of the first
@@ -40,5 +41,7 @@ std::vector<ItemLine> itemsOnDisk();
 // as it was and the work files are gone; only where a finished file could not take its place is the rest of the swap
 // left for the next opening (see recovery.h).
 RewriteEnd rewriteTable(const RewritePlan& plan, const std::vector<ItemLine>* items, const KeepGoing& keepGoing);
+// The same for that many records as `read` gives them, 256 bytes each, with the items as they are.
+RewriteEnd rewriteTable(std::int32_t records, const ReadRecords& read, const KeepGoing& keepGoing);
 
 }  // namespace zelko

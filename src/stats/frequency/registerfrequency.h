@@ -1,0 +1,8 @@
+// The frequency list: its form and mnuFREQ.
+#pragma once
+
+namespace zelko {
+
+void registerFrequency();
+
+}  // namespace zelko

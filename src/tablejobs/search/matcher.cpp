@@ -1,0 +1,36 @@
+#include "tablejobs/search/matcher.h"
+
+#include "platform/text/sjis.h"
+
+namespace zelko {
+
+namespace {
+
+// As a file would give it back: of several characters with one code the usual one.
+Text asStored(TextView typed) {
+  Text out;
+  for (std::size_t at = 0; at < typed.size(); ++at) {
+    const TextView unit = typed.substr(at, 1);
+    const std::string bytes = toSjis(unit);
+    out += bytes == "?" ? Text(unit) : fromSjis(bytes);
+  }
+  return out;
+}
+
+}  // namespace
+
+Matcher::Matcher(const SearchTerms& terms)
+    : whole_(terms.whole),
+      spelling_(terms.spelling),
+      wanted_(spelled(asStored(trimmed(terms.what)), spelling_)),
+      filter_(whole_ ? trimmed(wanted_) : wanted_, spelling_) {
+  // A full-width blank counts as a blank once forms are folded.
+  if (whole_) wanted_ = trimmed(wanted_);
+}
+
+bool Matcher::hits(TextView cell) const {
+  const Text text = spelled(trimmed(cell), spelling_);
+  return whole_ ? trimmed(text) == wanted_ : text.find(wanted_) != Text::npos;
+}
+
+}  // namespace zelko
