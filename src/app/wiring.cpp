@@ -19,9 +19,9 @@
 #include "tablejobs/blocks/blocks.h"
 #include "tablejobs/extract/form7.h"
 #include "tablejobs/replace/registerreplace.h"
-#include "voice/describe.h"
 #include "tablejobs/search/search.h"
 #include "tablejobs/sort/sortcommands.h"
+#include "voice/describe.h"
 #include "voice/dialogs.h"
 #include "voice/narration.h"
 
