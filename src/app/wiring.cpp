@@ -9,6 +9,7 @@
 #include "files/start/startscreen.h"
 #include "stats/calculators/calculatorform.h"
 #include "stats/correlation/registercorrelation.h"
+#include "stats/distribution/registerdistribution.h"
 #include "stats/frame/registerframe.h"
 #include "stats/frequency/registerfrequency.h"
 #include "tablejobs/blocks/blocks.h"
@@ -38,6 +39,7 @@ void wireProgram() {
   registerAnalysisFrame();
   registerCalculators();
   registerFrequency();
+  registerDistribution();
   registerCorrelation();
   narrateMenus();
 }
