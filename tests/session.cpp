@@ -6,6 +6,7 @@
 #include "editor/main/state.h"
 #include "editor/show/view.h"
 #include "store/records/records.h"
+#include "store/rewrite/recovery.h"
 #include "store/table/cursor.h"
 #include "store/table/table.h"
 #include "voice/talk.h"
@@ -16,6 +17,7 @@ void resetProgram(const std::filesystem::path& appFolder) {
   static const bool wired = (wireProgram(), true);
   (void)wired;
   resetTable();
+  resetRecovery();
   resetCursor();
   resetEditor();
   resetTalk();

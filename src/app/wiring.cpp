@@ -8,10 +8,14 @@
 #include "files/start/help.h"
 #include "files/start/startscreen.h"
 #include "stats/calculators/calculatorform.h"
+#include "stats/cluster/registercluster.h"
 #include "stats/correlation/registercorrelation.h"
 #include "stats/distribution/registerdistribution.h"
+#include "stats/factor/factorrun.h"
 #include "stats/frame/registerframe.h"
 #include "stats/frequency/registerfrequency.h"
+#include "stats/twogroups/tform.h"
+#include "stats/twogroups/uform.h"
 #include "tablejobs/blocks/blocks.h"
 #include "tablejobs/extract/form7.h"
 #include "tablejobs/replace/registerreplace.h"
@@ -38,9 +42,13 @@ void wireProgram() {
   registerReplacement();
   registerAnalysisFrame();
   registerCalculators();
+  registerTForm();
+  registerUForm();
   registerFrequency();
   registerDistribution();
   registerCorrelation();
+  registerFactor();
+  registerCluster();
   narrateMenus();
 }
 

@@ -76,7 +76,8 @@ TEST_CASE("stock tables are whole; model tables are empty and of the shape that 
 
 TEST_CASE("help texts can be heard line by line") {
   for (const char* name : {"readme", "音声案内について", "ﾃｷｽﾄﾃﾞｰﾀの記入のしかた", "Zelkoについて",
-                           "コードファイルを利用した置換機能について", "並べかえについて", "検索抽出について"}) {
+                           "コードファイルを利用した置換機能について", "並べかえについて", "検索抽出について",
+                           "CSVとブロック抽出について"}) {
     CAPTURE(name);
     const std::string text = bytesOf(kRoot + "assets/help/" + name + ".txt");
     CHECK((survivesDecoding(text) && text.ends_with("\r\n")));

@@ -34,8 +34,47 @@ const std::vector<Job> kJobs = {
     {"save-as", Holds::whole, "wait 1\n# job\nmenu mnuRESAS\nwait 20\ncommit new.txt\nkey Enter\nwait 2\nkey Y",
      "new.txt"},
     {"save-behind", Holds::whole, "wait 1\nmenu mnuRESAS\nwait 20\ncommit u.txt\nkey Enter\nwait 2\nkey Y", "u.txt"},
+    {"sort", Holds::whole, "wait 1\n# job\nkey F2\nkey Enter\ntype 1\nkey Enter\nkey N\nwait 2"},
+    {"sort-by-keys", Holds::whole,
+     "wait 1\n# job\nmenu mnuMSORT\nwait 1\ntype 2\nkey Enter\ntype d\nfocus frmMSORT.Command1\nkey Enter\nwait 2"},
+    {"sort-into-file", Holds::whole,
+     "wait 1\n# job\nmenu mnuSORTF\nwait 20\ncommit new.txt\nkey Enter\nkey Enter\ntype 1\nkey Enter\nkey N\nwait "
+     "2\nkey Y",
+     "new.txt"},
+    {"sort-as-listed", Holds::whole,
+     "wait 1\n# job\nkey Shift+F2\nkey Down\nkey Down\nkey Enter\nkey Down\nkey Enter\nkey Y\nwait 2"},
+    {"blocks", Holds::whole,
+     "wait 1\n# job\nmenu mnuMBROCK\nwait 1\nfocus FrmBROCK.Text2\ncommit 1/0\nkey Enter\ncommit new.txt\nkey "
+     "Enter\nwait 2\nkey Y",
+     "new.txt"},
     {"lock-and-release", Holds::records,
      "type x\nkey Enter\nmenu mnuFbt\nkey Y\nwait 2\nmenu mnuFbt\nkey Y\nwait 2\ntype y\nkey Enter\nkey Down"},
+    {"replace-at-once", Holds::records,
+     "key Right\nkey F4\ntype o\nfocus frmREPLACE.RichTextBox2\ntype 0\nfocus frmREPLACE.Check5\nkey Enter\nfocus "
+     "frmREPLACE.Command3\n# job\nkey Enter\nwait 2"},
+    {"replace-asked", Holds::records,
+     "key Right\nkey F4\ntype o\nfocus frmREPLACE.RichTextBox2\ntype 0\nfocus frmREPLACE.Command3\n# job\nkey "
+     "Enter\nkey Y\nwait 1\nkey Y\nwait 2\nkey Enter"},
+    {"convert-letters", Holds::records,
+     "key Right\nmenu mnuEOCR\nfocus frmEOCR.Check8\nkey Enter\nfocus frmEOCR.Check9\nkey Enter\nfocus "
+     "frmEOCR.Command1\n# job\nkey Enter\nwait 2\nkey Enter"},
+    {"format-numbers", Holds::records, "key Right\nkey Right\nkey Ctrl+F\ntype 00.0\n# job\nkey Enter\nwait 2"},
+    {"replace-by-codes", Holds::records,
+     "menu mnuDICT\nkey Down\nfocus frmFileNo.List1\nkey Down\nkey Down\nkey Down\nkey Enter\n# job\nkey Y\nwait 2"},
+    {"design-new-table", Holds::whole,
+     "wait 1\nmenu mnuNEW\nwait 1\nkey Enter\nkey Enter\ntype 4\nkey Enter\nwait 1\nkey Enter\nkey Down\ntype n\nkey "
+     "Enter\ntype r\nkey Enter\ntype 9\nfocus frmDESIGN.Command1\n# job\nkey Enter\nwait 2",
+     "NoName.txt"},
+    {"convert-text", Holds::whole,
+     "wait 1\nmenu mnuCZLK\nwait 1\nkey Down\nkey Enter\nwait 20\nkey Enter\n# job\nwait 2\nkey Enter\nwait 2\nkey "
+     "Enter\nwait 1",
+     "0_ZELKO.lst.txt"},
+    {"delete-table", Holds::whole, "menu mnuDEL\nwait 1\nkey Down\nkey Down\n# job\nkey Enter\nkey Y\nwait 2", "d.txt"},
+    {"model-table", Holds::whole, "wait 3\nkey Tab\nkey Tab\nkey Tab\nkey Tab\n# job\nkey Enter\nwait 2",
+     "\xE5\xAE\xB6\xE8\xA8\x88\xE7\xB0\xBF.txt", "", ""},
+    {"make-folder", Holds::whole,
+     "wait 1\nmenu mnuREAD\nwait 1\nfocus frmDISK.Command4\nkey Enter\nwait 1\ncommit neu\n# job\nkey Enter\nwait 2",
+     "neu"},
     {"leave", Holds::records, "type x\nkey Enter\nmenu mnuEND"},
 };
 
@@ -57,6 +96,13 @@ std::vector<std::pair<std::string, std::string>> filesBefore() {
           {"Kt.txt", items},
           {"u.txt", record("u1") + record("u2")},
           {"Ku.txt", items},
+          {"c.txt", record("1  two     2") + record("2  four    4")},
+          {"Kc.txt", items},
+          {"d.txt", record("d1")},
+          {"Kd.txt", items},
+          {"m1.___", record("m1")},
+          {"km1.___", items},
+          {"0.lst", "line one\r\nline two\r\n"},
           {"ZLKCLip", "2\r\n1\r\n2\r\n2\r\n1\r\n2\r\n\"p\"\r\n\"55\"\r\n\"q\"\r\n\"66\"\r\n"},
           {"zlkTalk", " 1 \r\n"},
           {"mAgent", " 0 \r\n"}};

@@ -21,11 +21,13 @@ struct Job {
   const char* output =
       "";                 // a table that the job makes: its records are those of an undisturbed run, from the first on
   const char* also = "";  // a script whose states may stand there too: a step within a command
+  const char* opened = "t.txt";  // at the start of the script; empty: the start screen
 };
 
 extern const std::vector<Job> kJobs;
 
-// The files of the folder before each job: the tables t and u, a clip of two records, a text to be converted.
+// The files of the folder before each job: the tables t and u, c with codes, d to be deleted, a model
+// table, a clip of two records, a text to be converted.
 std::vector<std::pair<std::string, std::string>> filesBefore();
 
 }  // namespace zelko::test

@@ -56,10 +56,10 @@ class Stage {
   }
 
   // The fault as the preloaded calls take it; empty: none.
-  Run play(const std::string& script, const std::string& fault) const {
+  Run play(const std::string& script, const std::string& fault, const char* opened = "t.txt") const {
     std::ofstream(place_.string() + ".script") << script << '\n';
     const pid_t child = fork();
-    if (child == 0) become(fault);
+    if (child == 0) become(fault, opened);
     Run run;
     int status = 0;
     waitpid(child, &status, 0);
@@ -67,19 +67,20 @@ class Stage {
     run.transcript = readBytes(place_.string() + ".out");
     std::istringstream(readBytes(place_.string() + ".calls")) >> run.calls >> run.reads;
     for (const auto& entry : fs::directory_iterator(place_))
-      run.files[entry.path().filename().string()] = readBytes(entry.path());
+      run.files[entry.path().filename().string()] = entry.is_directory() ? "" : readBytes(entry.path());
     return run;
   }
 
  private:
-  [[noreturn]] void become(const std::string& fault) const {
+  [[noreturn]] void become(const std::string& fault, const char* opened) const {
     if (freopen((place_.string() + ".out").c_str(), "w", stdout) == nullptr) std::_Exit(126);
     setenv("LD_PRELOAD", preload_.c_str(), 1);
     setenv("ASAN_OPTIONS", "verify_asan_link_order=0:detect_leaks=0", 1);
     setenv("ZELKO_FAULT", fault.c_str(), 1);
     setenv("ZELKO_CALLS", (place_.string() + ".calls").c_str(), 1);
     const std::string script = place_.string() + ".script";
-    execl(program_.c_str(), program_.c_str(), "--replay", script.c_str(), "--dir", place_.c_str(), "t.txt", nullptr);
+    execl(program_.c_str(), program_.c_str(), "--replay", script.c_str(), "--dir", place_.c_str(),
+          *opened == '\0' ? nullptr : opened, nullptr);
     std::_Exit(127);
   }
 
@@ -123,7 +124,8 @@ class Reference {
   bool sameEnd(const Files& files) const {
     const auto same = [&](const std::string& name) {
       const auto one = files.find(name), other = last_.files.find(name);
-      return one != files.end() && other != last_.files.end() && one->second == other->second;
+      if (one == files.end() || other == last_.files.end()) return one == files.end() && other == last_.files.end();
+      return one->second == other->second;
     };
     const char* const names[] = {"t.txt", "Kt.txt", "ZLKCLip", job_.output};
     return std::ranges::all_of(names, [&](const char* name) { return *name == '\0' || same(name); });
@@ -138,7 +140,7 @@ class Reference {
     for (std::string line; std::getline(lines, line);) {
       played += line + "\n";
       stage.prepare();
-      run = stage.play(played, "none 0");
+      run = stage.play(played, "none 0", job_.opened);
       if (line == "# job") way_ = run;
       add(run.files);
     }
@@ -208,7 +210,7 @@ std::string at(const std::string& fault, int call) {
 // What went wrong; empty where all holds.
 std::string disturbed(const Stage& stage, const Job& job, const Reference& reference, const std::string& fault) {
   stage.prepare();
-  const Run run = stage.play(job.script, fault);
+  const Run run = stage.play(job.script, fault, job.opened);
   const bool killed = fault.starts_with("kill");
   if (killed ? run.status != kKilled : run.status != 0 && run.status != 2)
     return "the program ended with " + std::to_string(run.status);

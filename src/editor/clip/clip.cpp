@@ -1,6 +1,8 @@
 #include "editor/clip/clip.h"
 
 #include <algorithm>
+#include <limits>
+#include <vector>
 
 #include "editor/clip/clipfile.h"
 #include "editor/main/commands.h"
@@ -8,8 +10,8 @@
 #include "editor/rewrites/rewrites.h"
 #include "editor/show/sheet.h"
 #include "editor/show/showcell.h"
-#include "platform/host.h"
 #include "store/records/records.h"
+#include "store/records/walk.h"
 #include "store/table/cursor.h"
 #include "store/table/notice.h"
 #include "store/table/readonly.h"
@@ -21,8 +23,6 @@
 namespace zelko {
 
 namespace {
-
-constexpr int kDataFile = 1;
 
 // What a clip copy hands over at most, in characters: weeks of listening. The clip file itself has no limit.
 constexpr std::size_t kLongestHandedOver = 1000000;
@@ -60,116 +60,155 @@ Block rangeInOrder() {
           std::max(rangeItem1, rangeItem2)};
 }
 
-// Writes one record of the block; its text comes behind `text`.
-FileError copyRecord(ClipWriter& clip, std::int32_t record, const Block& block, Text& text) {
-  CacheRow& row = recCache[0];
-  FileError error = getRec(kDataFile, record, row) || record > recCount() ? FileError::none : FileError::device;
+// Writes one record of the block; its text comes behind `text`. `cell` gives the text of an item.
+template <class Cells>
+bool copyRecord(ClipWriter& clip, const Block& block, const Cells& cell, Text& text) {
   Text cells;
-  for (int item = block.item1; item <= block.item2 && error == FileError::none; ++item) {
-    const Text cell = cellOfRow(row, item);
-    cells += cell;
-    error = clip.cell(cell);
+  for (int item = block.item1; item <= block.item2; ++item) {
+    const Text copied = cell(item);
+    cells += copied;
+    if (clip.cell(copied) != FileError::none) return false;
   }
   if (text.size() + cells.size() <= kLongestHandedOver) text += cells + kLineEnd;
-  return error;
+  return true;
+}
+
+// The new line behind the last record can be in a block: it is copied as it stands, blank.
+bool copyBehindLast(ClipWriter& clip, const Block& block, Text& text) {
+  CacheRow row;
+  setRow(row, blankRec);
+  const auto cell = [&row](int item) { return cellOfRow(row, item); };
+  for (std::int32_t record = std::max(block.rec1, recCount() + 1); record <= block.rec2; ++record)
+    if (!copyRecord(clip, block, cell, text)) return false;
+  return true;
 }
 
 // The progress is measured against the last record's number.
 Ending copyBlock(const Block& block, Text& text) {
   Progress progress(u"ｸﾘｯﾌﾟﾌｧｲﾙ作成中", block.rec2);
   ClipWriter clip;
-  FileError error = clip.open(block);
-  for (std::int32_t record = block.rec1; record <= block.rec2 && error == FileError::none; ++record) {
-    if (!progress.step(record)) return Ending::stopped;
-    error = copyRecord(clip, record, block, text);
+  bool written = clip.open(block) == FileError::none;
+  const Walk walk{
+      .first = block.rec1, .last = block.rec2, .progress = &progress, .doneBefore = std::int64_t{block.rec1} - 1};
+  const auto copy = [&](const WalkedRecord& record) {
+    written = copyRecord(
+        clip, block, [&record](int item) { return record.cell(item); }, text);
+    return written;
+  };
+  const WalkEnd end = written ? walkRecords(walk, copy) : WalkEnd::left;
+  if (end == WalkEnd::stopped) return Ending::stopped;
+  if (end == WalkEnd::failed) {
+    tellReadError();
+    return Ending::failed;
   }
-  if (error == FileError::none) error = clip.finish();
-  return error == FileError::none ? Ending::done : Ending::failed;
+  if (written && copyBehindLast(clip, block, text) && clip.finish() == FileError::none) return Ending::done;
+  tellWriteError();
+  return Ending::failed;
 }
 
 // --- Paste ---------------------------------------------------------------------------------------------------
 
-// Lays one record of the clip over the row, from `first` on; false where the clip's lines run out.
-bool layOver(ClipReader& clip, std::int16_t first, CacheRow& row) {
-  Text cell;
-  for (std::int32_t number = 0; number < clip.items(); ++number) {
-    if (!clip.next(cell)) return false;
-    if (number <= itemCount - first) setCell(row, first + number, trimmed(cell));
-  }
-  row[kDataBytes] = '\r';
-  row[kDataBytes + 1] = '\n';
-  return true;
+// The records that a clip of so many covers from the cursor on.
+Walk walkOfPaste(std::int32_t count, Progress* progress) {
+  constexpr std::int64_t kHighest = std::numeric_limits<std::int32_t>::max() - 1;
+  const std::int64_t last = std::min(std::int64_t{curRec} + count - 1, kHighest);
+  return {.first = curRec, .last = static_cast<std::int32_t>(last), .progress = progress};
 }
 
-// The record as it is, or a blank one behind the last; false where it can't be read.
-bool readTarget(std::int32_t target, CacheRow& row) { return getRec(kDataFile, target, row) || target > recCount(); }
-
 // On the disk before the first record changes: neither a kill nor a full disk leaves a paste that can't be undone.
+// Records behind the last one are backed up as blank ones.
 Ending backUp(std::int32_t count, Progress& progress) {
   BackupWriter backup;
   FileError error = backup.open(curRec);
-  for (std::int32_t number = 0; number < count && error == FileError::none; ++number) {
-    if (!progress.step(0)) return Ending::stopped;
-    CacheRow& row = recCache[0];
-    error = readTarget(curRec + number, row) ? backup.record(row) : FileError::device;
+  const Walk walk = walkOfPaste(count, &progress);
+  const auto save = [&](const WalkedRecord& record) {
+    error = backup.record(record.data());
+    return error == FileError::none;
+  };
+  const WalkEnd end = error == FileError::none ? walkRecords(walk, save) : WalkEnd::left;
+  if (end == WalkEnd::stopped) return Ending::stopped;
+  if (end == WalkEnd::failed) {
+    tellReadError();
+    return Ending::failed;
   }
+  for (std::int64_t record = std::max(walk.first, recCount() + 1); record <= walk.last && error == FileError::none;
+       ++record)
+    error = backup.record(blankRec);
   if (error == FileError::none) error = backup.finish();
   if (error == FileError::none) return Ending::done;
   tellWriteError();
   return Ending::failed;
 }
 
-Ending pasteRecord(ClipReader& clip, std::int32_t target) {
-  CacheRow& row = recCache[0];
-  if (!readTarget(target, row)) {
-    tellReadError();
-    return Ending::failed;
+// One record of the clip; false where its lines run out.
+bool readRecord(ClipReader& clip, std::vector<Text>& cells) {
+  cells.clear();
+  Text cell;
+  for (std::int32_t number = 0; number < clip.items(); ++number) {
+    if (!clip.next(cell)) return false;
+    if (number <= itemCount - curItem) cells.push_back(trimmed(cell));
   }
-  if (!layOver(clip, curItem, row)) return Ending::outOfLines;
-  return putRec(kDataFile, target, {row.data(), row.size()}) ? Ending::done : Ending::failed;
+  return true;
 }
 
+// A record is visited only where all of its cells are at hand.
 Ending pasteRecords(ClipReader& clip, Progress& progress) {
-  setRow(recCache[1], blankRec);
-  Ending ending = Ending::done;
-  for (std::int32_t number = 0; number < clip.records() && ending == Ending::done; ++number)
-    ending = progress.step(number + 1) ? pasteRecord(clip, curRec + number) : Ending::stopped;
-  return ending;
+  Walk walk = walkOfPaste(clip.records(), &progress);
+  walk.doneBefore = clip.records();
+  walk.lengthens = true;
+  std::vector<Text> cells;
+  bool holdsAll = readRecord(clip, cells);
+  const auto layOver = [&](ChangedRecord& record) {
+    int item = curItem;
+    for (const Text& cell : cells) record.setCell(item++, cell);
+    if (record.number() < walk.last) holdsAll = readRecord(clip, cells);
+    return holdsAll;
+  };
+  const WalkEnd end = holdsAll ? changeRecords(walk, layOver) : WalkEnd::left;
+  if (end == WalkEnd::stopped) return Ending::stopped;
+  if (end == WalkEnd::failed) return Ending::failed;
+  return holdsAll ? Ending::done : Ending::outOfLines;
 }
 
-// Records that the paste did not come to are not there: they stay so.
-void putBackRecords(Progress& progress) {
+// Records that the paste did not come to are not there: they stay so. Without `progress` nothing stops it.
+WalkEnd putBackRecords(Progress* progress) {
   BackupReader backup;
-  CacheRow& row = recCache[1];
   std::string bytes;
-  for (std::int32_t record = backup.open(); record > 0 && record <= recCount() && backup.next(bytes); ++record) {
-    progress.step(0);
-    setRow(row, bytes);
-    if (!putRec(kDataFile, record, {row.data(), row.size()})) return;
-  }
+  const std::int32_t first = backup.open();
+  if (first == 0) return WalkEnd::done;
+  const auto putBack = [&](ChangedRecord& record) {
+    if (!backup.next(bytes)) return false;
+    record.setData(bytes);
+    return true;
+  };
+  return changeRecords({.first = first, .last = recCount(), .progress = progress}, putBack);
 }
 
-// Without a question: also the way back of a paste that was stopped, `changed` where it had come to the records.
-void restoreBackup(bool changed = true) {
+// Without a question: also the way back of a paste that was stopped, which nothing stops; `changed` where the paste had
+// come to the records.
+void restoreBackup(bool afterStop, bool changed) {
   const BackupFits fits = changed ? backupFits() : BackupFits::here;
   if (fits == BackupFits::none) return showOK(u"最近張り付け操作をした形跡はありません", u"張付け操作");
   if (fits == BackupFits::elsewhere) {
     return showOK(u"最後の貼り付けは、今のこの表には合いません。取り消しはしません", u"張付け操作");
   }
+  WalkEnd end = WalkEnd::done;
   {
     Progress progress(u"張り付け撤去中", 0);
-    if (changed) putBackRecords(progress);
+    if (changed) end = putBackRecords(afterStop ? nullptr : &progress);
     loadCache(curRec);
     waitPastGate();  // the cell in its new state is heard when the progress dialog closes
   }
   showAgain();
+  if (end == WalkEnd::stopped)
+    talkBehindDialog(u"取り消しを中止しました。もう一度取り消しを選ぶと、最後まで元に戻します");
 }
 
 void paste(ClipReader& clip, TextView work) {
   Ending ending;
   bool changed = false;
   {
-    Progress progress(work, clip.records());
+    Progress progress(work, std::int64_t{clip.records()} * 2);
     ending = backUp(clip.records(), progress);
     changed = ending == Ending::done;
     if (changed) ending = pasteRecords(clip, progress);
@@ -177,7 +216,7 @@ void paste(ClipReader& clip, TextView work) {
     loadCache(curRec);
     waitPastGate();  // the cell in its new state is heard when the progress dialog closes
   }
-  if (ending == Ending::stopped) return restoreBackup(changed);
+  if (ending == Ending::stopped) return restoreBackup(true, changed);
   showAgain();
   if (ending == Ending::outOfLines) tellBrokenClip();
 }
@@ -201,7 +240,6 @@ bool clipCopy() {
   }
   Text text;
   const Ending ending = copyBlock(rangeInOrder(), text);
-  if (ending == Ending::failed) tellWriteError();
   if (ending == Ending::done) handToUser(text);
   hideRangeMask();
   dropRange();
@@ -230,18 +268,19 @@ void pasteUndo() {
   if (refusedAsReadOnly()) return;
   if (!askYesNo(u"いちばん最近の貼り付け操作を取り消し,以前の状態に戻します", u".張り付けの取り消し")) return;
   if (!commitBox()) return;
-  restoreBackup();
+  restoreBackup(false, true);
 }
 
 void clipToClipboard() {
   ClipReader clip;
   if (!openedClip(clip, tellNoClip)) return;
+  LateProgress progress(u"ｸﾘｯﾌﾟﾌｧｲﾙ読み込み中", clip.records());
   Text text, line, cell;
   for (std::int32_t record = 0; record < clip.records(); ++record, line.clear()) {
     for (std::int32_t item = 0; item < clip.items(); ++item, line += cell)
       if (!clip.next(cell)) return tellBrokenClip();
-    text += trimmedRight(line) + kLineEnd;
-    host().letEventsThrough();
+    if (text.size() + line.size() <= kLongestHandedOver) text += trimmedRight(line) + kLineEnd;
+    if (!progress.step(record + 1)) return talkBehindDialog(u"中止しました");
   }
   handToUser(text);
 }

@@ -16,7 +16,6 @@ namespace zelko {
 
 namespace {
 
-constexpr int kClipFile = 3, kBackupFile = 4;
 constexpr char16_t kQuote = u'"';
 constexpr std::size_t kLongestLine = 4096;  // of a cell, or of a record; several times what each can hold
 
@@ -33,28 +32,26 @@ Text asItStands(const Names& names) {
   return findIgnoringCase(name).value_or(name);
 }
 
-FileError openForInput(int number, const Names& names) {
-  closeFile(number);
-  return openInput(number, asItStands(names), kNoBound, kLongestLine);
+FileError openForInput(OwnedFile& file, const Names& names) {
+  return file.openInput(asItStands(names), kNoBound, kLongestLine);
 }
 
-FileError openForOutput(int number, const Names& names) {
-  closeFile(number);
-  return isReadOnly(asItStands(names)) ? FileError::pathAccess : openNewOutput(number, appDir + Text(names.work));
+FileError openForOutput(OwnedFile& file, const Names& names) {
+  return isReadOnly(asItStands(names)) ? FileError::pathAccess : file.openNewOutput(appDir + Text(names.work));
 }
 
 // Whole and on the disk, still under its working name.
-FileError finishWork(int number) {
-  const FileError error = syncFile(number);
-  const FileError closing = closeFile(number);
+FileError finishWork(OwnedFile& file) {
+  const FileError error = syncFile(file.number());
+  const FileError closing = file.close();
   return error != FileError::none ? error : closing;
 }
 
 FileError putInPlace(const Names& names) { return renameOver(appDir + Text(names.work), asItStands(names)); }
 
-void dropWork(int number, const Names& names) {
-  if (!isOpen(number)) return;
-  closeFile(number);
+void dropWork(OwnedFile& file, const Names& names) {
+  if (!file.isOpen()) return;
+  file.close();
   removeOwnName(appDir + Text(names.work));
 }
 
@@ -67,10 +64,10 @@ std::int32_t numberOf(TextView field) {
   }
 }
 
-FileError printNumbers(std::int32_t first, std::int32_t last) {
-  FileError error = printLine(kClipFile, decimal(std::int64_t{last} - first + 1));
+FileError printNumbers(const OwnedFile& file, std::int32_t first, std::int32_t last) {
+  FileError error = printLine(file.number(), decimal(std::int64_t{last} - first + 1));
   for (std::int32_t number = first; number <= last && error == FileError::none; ++number)
-    error = printLine(kClipFile, decimal(number));
+    error = printLine(file.number(), decimal(number));
   return error;
 }
 
@@ -109,45 +106,44 @@ Text backupOf(const FileMark& backup, std::int64_t records) {
 }
 
 FileError writeBackupOf(const Text& text) {
-  FileError error = openForOutput(kBackupFile, kBackupOf);
-  if (error == FileError::none) error = printBytes(kBackupFile, toUtf8(text));
-  if (error == FileError::none) error = finishWork(kBackupFile);
-  dropWork(kBackupFile, kBackupOf);
+  OwnedFile file;
+  FileError error = openForOutput(file, kBackupOf);
+  if (error == FileError::none) error = printBytes(file.number(), toUtf8(text));
+  if (error == FileError::none) error = finishWork(file);
+  dropWork(file, kBackupOf);
   return error;
 }
 
 }  // namespace
 
 FileError ClipWriter::open(const Block& block) {
-  FileError error = openForOutput(kClipFile, kClip);
-  if (error == FileError::none) error = printNumbers(block.rec1, block.rec2);
-  if (error == FileError::none) error = printNumbers(block.item1, block.item2);
+  FileError error = openForOutput(file_, kClip);
+  if (error == FileError::none) error = printNumbers(file_, block.rec1, block.rec2);
+  if (error == FileError::none) error = printNumbers(file_, block.item1, block.item2);
   return error;
 }
 
 FileError ClipWriter::cell(TextView text) {
   Text line(1, kQuote);
   line.append(text).push_back(kQuote);
-  return printLine(kClipFile, line);
+  return printLine(file_.number(), line);
 }
 
 FileError ClipWriter::finish() {
-  FileError error = finishWork(kClipFile);
+  FileError error = finishWork(file_);
   if (error == FileError::none) error = putInPlace(kClip);
   if (error != FileError::none) removeOwnName(appDir + Text(kClip.work));
   return error;
 }
 
-ClipWriter::~ClipWriter() { dropWork(kClipFile, kClip); }
+ClipWriter::~ClipWriter() { dropWork(file_, kClip); }
 
-bool ClipReader::open() { return openForInput(kClipFile, kClip) == FileError::none; }
-
-void ClipReader::close() { closeFile(kClipFile); }
+bool ClipReader::open() { return openForInput(file_, kClip) == FileError::none; }
 
 bool ClipReader::field(Text& out) {
   const bool continued = rest_;
   if (!continued) {
-    if (readLine(kClipFile, line_) != FileError::none) return false;
+    if (readLine(file_.number(), line_) != FileError::none) return false;
     at_ = 0;
   }
   const std::size_t comma = line_.find(u',', at_);
@@ -172,21 +168,21 @@ bool ClipReader::header() { return counted(records_) && counted(items_); }
 bool ClipReader::next(Text& cell) { return field(cell); }
 
 FileError BackupWriter::open(std::int32_t first) {
-  const FileError error = openForOutput(kBackupFile, kBackup);
-  return error == FileError::none ? printLine(kBackupFile, decimal(first)) : error;
+  const FileError error = openForOutput(file_, kBackup);
+  return error == FileError::none ? printLine(file_.number(), decimal(first)) : error;
 }
 
 // A line end inside a record would make two lines of it, and the undo would then run over the record behind.
-FileError BackupWriter::record(const CacheRow& row) {
-  std::string line(rowBytes(row).substr(0, dataLength()));
+FileError BackupWriter::record(std::string_view data) {
+  std::string line(data.substr(0, dataLength()));
   std::replace_if(
       line.begin(), line.end(), [](char byte) { return byte == '\r' || byte == '\n'; }, ' ');
-  return printBytes(kBackupFile, '"' + line + "\"\r\n");
+  return printBytes(file_.number(), '"' + line + "\"\r\n");
 }
 
 // A kill between the two leaves a backup that fits nothing, and a table in which nothing was changed.
 FileError BackupWriter::finish() {
-  FileError error = finishWork(kBackupFile);
+  FileError error = finishWork(file_);
   const auto mark = markOfFile(appDir + Text(kBackup.work));
   if (error == FileError::none && !mark) error = FileError::device;
   if (error == FileError::none) error = writeBackupOf(backupOf(*mark, recCount()));
@@ -197,7 +193,7 @@ FileError BackupWriter::finish() {
   return error;
 }
 
-BackupWriter::~BackupWriter() { dropWork(kBackupFile, kBackup); }
+BackupWriter::~BackupWriter() { dropWork(file_, kBackup); }
 
 BackupFits backupFits() {
   constexpr std::size_t kLongest = 65536;
@@ -214,17 +210,15 @@ BackupFits backupFits() {
 
 std::int32_t BackupReader::open() {
   Text line;
-  if (openForInput(kBackupFile, kBackup) != FileError::none) return 0;
-  return readLine(kBackupFile, line) == FileError::none ? numberOf(unquoted(line, false)) : 0;
+  if (openForInput(file_, kBackup) != FileError::none) return 0;
+  return readLine(file_.number(), line) == FileError::none ? numberOf(unquoted(line, false)) : 0;
 }
 
 bool BackupReader::next(std::string& bytes) {
-  if (readLineBytes(kBackupFile, bytes) != FileError::none) return false;
+  if (readLineBytes(file_.number(), bytes) != FileError::none) return false;
   if (bytes.size() < 2 || bytes.front() != '"' || bytes.back() != '"') return false;
   bytes = bytes.substr(1, bytes.size() - 2);
   return true;
 }
-
-void BackupReader::close() { closeFile(kBackupFile); }
 
 }  // namespace zelko

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "platform/files/files.h"
+#include "platform/files/ownedfile.h"
 #include "platform/text/text.h"
 #include "store/table/table.h"
 
@@ -24,23 +24,26 @@ class ClipWriter {
   FileError open(const Block& block);
   FileError cell(TextView text);
   FileError finish();
+
+ private:
+  OwnedFile file_;
 };
 
 // Reads a clip file. A comma ends a field, wherever it stands: a cell that holds one slips into the next.
 class ClipReader {
  public:
-  ~ClipReader() { close(); }
   bool open();    // false where there is none
   bool header();  // false where its lines run out or a count is none
   std::int32_t records() const { return records_; }
   std::int32_t items() const { return items_; }
   bool next(Text& cell);  // false where the lines have run out
-  void close();
+  void close() { file_.close(); }
 
  private:
   bool field(Text& out);
   bool counted(std::int32_t& count);
 
+  OwnedFile file_;
   Text line_;
   std::size_t at_ = 0;
   bool rest_ = false;  // the line goes on behind a comma
@@ -54,8 +57,11 @@ class BackupWriter {
  public:
   ~BackupWriter();
   FileError open(std::int32_t first);
-  FileError record(const CacheRow& row);
+  FileError record(std::string_view data);  // 254 bytes
   FileError finish();
+
+ private:
+  OwnedFile file_;
 };
 
 enum class BackupFits { none, elsewhere, here };
@@ -65,11 +71,12 @@ BackupFits backupFits();
 
 class BackupReader {
  public:
-  ~BackupReader() { close(); }
   // The number of the first record; 0 where it can't be read.
   std::int32_t open();
   bool next(std::string& bytes);  // false at the end
-  void close();
+
+ private:
+  OwnedFile file_;
 };
 
 }  // namespace zelko

@@ -1,11 +1,13 @@
 #include "editor/formulas/sums.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "editor/formulas/formulaform.h"
 #include "editor/main/commands.h"
 #include "editor/main/inputbox.h"
 #include "editor/main/state.h"
+#include "parts/ask/typed.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "platform/text/sjis.h"
@@ -74,13 +76,27 @@ bool offer(const Sum& sum) {
   return false;
 }
 
+// False where the cell, or the sum with it, is beyond the numbers that can be held.
+bool add(Sum& sum, TextView cell) {
+  const auto value = typedVal(cell);
+  sum.value += value.value_or(0);
+  return value && std::isfinite(sum.value);
+}
+
+bool tellTooLarge(std::int32_t record, int item) {
+  tellFailure(u"記録" + decimal(record) + u"、項目" + decimal(item) + u"の数値が大きすぎて、計算できません",
+              u"error in atai");
+  return false;
+}
+
 bool rowSum() {
   Sum sum{u"横合計", u"指定項目範囲(", u"項目1～", 1, curItem - 1};
   if (rangeKind != 0) {
     sum.first = std::min(rangeItem1, rangeItem2);
     sum.last = std::max(rangeItem1, rangeItem2);
   }
-  for (std::int32_t item = sum.first; item <= sum.last; ++item) sum.value += val(cellOfRow(currentRow(), item));
+  for (std::int32_t item = sum.first; item <= sum.last; ++item)
+    if (!add(sum, cellOfRow(currentRow(), item))) return tellTooLarge(curRec, item);
   return offer(sum);
 }
 
@@ -94,10 +110,13 @@ bool columnSum() {
     return false;
   }
   const Walk walk{.first = sum.first, .last = sum.last, .work = u"縦合計計算中"};
-  const WalkEnd end = walkRecords(walk, [&sum](const WalkedRecord& record) {
-    sum.value += val(record.cell(curItem));
-    return true;
+  std::int32_t tooLarge = 0;
+  const WalkEnd end = walkRecords(walk, [&](const WalkedRecord& record) {
+    if (add(sum, record.cell(curItem))) return true;
+    tooLarge = record.number();
+    return false;
   });
+  if (tooLarge != 0) return tellTooLarge(tooLarge, curItem);
   if (end == WalkEnd::done) return offer(sum);
   if (end == WalkEnd::stopped) talkBehindDialog(u"縦合計を中止しました");
   if (end == WalkEnd::failed) tellFailure(u"記録が読めません。", u"ファイル読み込みエラー");

@@ -127,6 +127,7 @@ constexpr MenuRow kRows[] = {
     {1, u"mnuSORTF", u"並べかえﾌｧｲﾙ作成(&S)"},
     {1, u"mnuMSORTF", u"多重並べかえﾌｧｲﾙ作成(&N)"},
     {1, u"mnuFSETU", u"検索抽出の説明"},
+    {1, u"mnuCSETU", u"CSVとﾌﾞﾛｯｸ抽出の説明"},
     {0, u"mnuTEL", u"電話(&T)"},
     {0, u"mnuDTK", u"読み上(&R)"},
     {1, u"mnuDTKN", u"データのみ(&D)", key::function(11), shift::None},

@@ -11,16 +11,14 @@
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "store/records/records.h"
+#include "store/records/walk.h"
 #include "store/table/cursor.h"
-#include "store/table/notice.h"
 #include "store/table/readonly.h"
 #include "voice/progress.h"
 #include "voice/talk.h"
 
 namespace zelko {
 namespace {
-
-constexpr int kDataFile = 1;
 
 bool refuse() {
   host().beep();
@@ -40,28 +38,25 @@ bool copiedToClip(std::int16_t kind, std::int32_t rec1, std::int32_t rec2, std::
   return false;
 }
 
-bool blankCells(std::int32_t record, std::int16_t item1, std::int16_t item2) {
-  CacheRow row;
-  if (!getRec(kDataFile, record, row)) {
-    tellReadError();
-    return false;
+// Bytes behind the last item stay as they are.
+void blankCells(ChangedRecord& record, std::int16_t item1, std::int16_t item2) {
+  std::string data(record.data());
+  for (int item = item1; item <= item2; ++item) {
+    const CellPlace& cell = record.shape().at(item);
+    std::fill_n(data.begin() + std::min<int>(cell.start, kDataBytes),
+                std::min<int>(cell.length, kDataBytes - cell.start), ' ');
   }
-  for (std::int16_t item = item1; item <= item2; ++item) {
-    const auto i = static_cast<std::size_t>(item);
-    const int start = std::min(itemStart[i] - 1, kDataBytes);
-    const int end = std::min(start + itemWidth[i], kDataBytes);
-    std::fill(row.begin() + start, row.begin() + end, ' ');
-  }
-  return putRec(kDataFile, record, {row.data(), row.size()});
+  record.setData(data);
 }
 
 bool clearRecords(std::int32_t rec1, std::int32_t rec2, std::int16_t item1, std::int16_t item2) {
   Progress progress(u"消去中", rec2 - rec1 + 1);
-  for (std::int32_t record = rec1; record <= rec2; ++record) {
-    if (!progress.step(record - rec1 + 1) || !blankCells(record, item1, item2)) return false;
-  }
-  loadCache(curRec);
-  return true;
+  const WalkEnd end = changeRecords({.first = rec1, .last = rec2, .progress = &progress}, [&](ChangedRecord& record) {
+    blankCells(record, item1, item2);
+    return true;
+  });
+  if (end == WalkEnd::done) loadCache(curRec);
+  return end == WalkEnd::done;
 }
 
 }  // namespace

@@ -42,6 +42,7 @@ void CsvSurvey::take(const CsvLine& line) {
   mostFields_ = std::max(mostFields_, line.fields());
   const std::size_t count = std::min(line.fields(), kMostItems);
   if (fields_.size() < count) fields_.resize(count);
+  if (isFirst) firstFields_ = count;
   for (std::size_t number = 0; number < count; ++number) {
     const std::string_view text = line.getSVCdata(number);
     Field& field = fields_[number];
@@ -64,7 +65,8 @@ bool CsvSurvey::looksLikeHeading() const {
   if (lines_ < 2) return false;
   std::set<std::string_view> words;
   bool sure = false;
-  for (const Field& field : fields_) {
+  for (std::size_t number = 0; number < firstFields_; ++number) {
+    const Field& field = fields_[number];
     if (field.first.empty() && field.filled == 0) continue;
     if (field.first.empty() || field.firstComesAgain || looksLikeNumber(field.first)) return false;
     if (!words.insert(field.first).second) return false;

@@ -36,7 +36,7 @@ class CsvSurvey {
 
   bool utf8_;
   std::int64_t lines_ = 0;
-  std::size_t mostFields_ = 0;
+  std::size_t mostFields_ = 0, firstFields_ = 0;  // of any line, of the first one
   std::vector<Field> fields_;
 };
 

@@ -19,6 +19,8 @@ std::string_view trimmedField(std::string_view field) {
   return field.substr(first, field.find_last_not_of(' ') - first + 1);
 }
 
+bool holds(std::string_view bytes, char byte) { return std::memchr(bytes.data(), byte, bytes.size()) != nullptr; }
+
 bool isLineEnd(char byte) { return byte == '\r' || byte == '\n'; }
 
 // A doubled quote is one, a line end a blank.
@@ -107,7 +109,7 @@ bool CsvReader::protectedField(CsvLine& line, std::size_t lineStart) {
   while (behind < limit && buffer_[behind] == ' ') ++behind;
   if (behind == limit ? !limitIsEnd : buffer_[behind] != ',' && !isLineEnd(buffer_[behind])) return false;
   std::string_view content(buffer_.data() + open + 1, close - open - 1);
-  if (!plain || content.find_first_of("\r\n") != std::string_view::npos) {
+  if (!plain || holds(content, '\n') || holds(content, '\r')) {
     if (line.written_.size() == line.writtenCount_) line.written_.emplace_back();
     std::string& written = line.written_[line.writtenCount_++];
     writeUnquoted(content, written);

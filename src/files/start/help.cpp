@@ -23,6 +23,7 @@ constexpr HelpEntry kEntries[] = {
     {u"mnuSETU", u"コードファイルを利用した置換機能について.txt"},
     {u"mnuOSETU", u"並べかえについて.txt"},
     {u"mnuFSETU", u"検索抽出について.txt"},
+    {u"mnuCSETU", u"CSVとブロック抽出について.txt"},
 };
 
 }  // namespace

@@ -6,7 +6,7 @@
 namespace zelko {
 
 struct EditorHooks {
-  // Stores the names typed into their boxes, and with `box` what stands in the input box, without flushing the row.
+  // Stores the names typed into their boxes, and with `box` what stands in the input box and the current row.
   std::function<void(bool box)> storeTyped = [](bool) {};
   // The cache around the cursor, the title and the view again; the range is dropped unless it is kept.
   std::function<void(bool keepRange)> reload = [](bool) {};

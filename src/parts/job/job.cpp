@@ -44,7 +44,8 @@ bool beginJob(bool changes, bool storesBox) {
   }
   if (changes && refusedAsReadOnly()) return false;
   editorHooks.storeTyped(storesBox);
-  return flushRec();
+  // With the box the row was stored too: who held it back is not asked again.
+  return !(storesBox && storeWasHeldBack()) && flushRec();
 }
 
 void endJob(JobEnd end, bool keepsRange, const Text& said, const std::function<void()>& tellFailure) {

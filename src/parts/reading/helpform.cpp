@@ -28,6 +28,10 @@ frmHelp::frmHelp() : Form(kName, u"ﾍﾙﾌﾟ") {
   Command4.onClick = [this] { screen().unload(*this); };
   RichTextBox1.onKeyDown = [this](KeyEvent&) { reader_.keyDown(); };
   narrate();
+  // While work goes on its questions come and go in front of this window: it is seen, and says nothing.
+  RichTextBox1.onGotFocus = [this, spoken = RichTextBox1.onGotFocus] {
+    if (!busy_) spoken();
+  };
   // Behind the narration, whose repeat key would read the whole text.
   RichTextBox1.onKeyUp = [this](KeyEvent& key) { frmHelp_RichTextBox1_KeyUp(key); };
 }
@@ -57,6 +61,7 @@ void frmHelp::take(const Reading& reading) {
 void frmHelp::addLine(TextView line) { RichTextBox1.setText(RichTextBox1.content() + Text(line) + kLineEnd); }
 
 void frmHelp::setBusy(bool busy) {
+  busy_ = busy;
   for (Button* button : {&Command1, &Command2, &Command3, &Command4}) button->setEnabled(!busy);
 }
 

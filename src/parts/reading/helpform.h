@@ -43,6 +43,7 @@ class frmHelp : public Form {
 
   LineReader reader_{RichTextBox1, {}};
   Reading reading_;
+  bool busy_ = false;
 };
 
 // Opens the window on it, in place of what it showed; modal, or beside its caller, who gets the form.

@@ -1,6 +1,7 @@
 #include "parts/report/report.h"
 
 #include "parts/disk/filewords.h"
+#include "platform/files/workfiles.h"
 #include "platform/host.h"
 #include "platform/text/daytime.h"
 #include "store/table/description.h"
@@ -41,6 +42,10 @@ bool Report::open(TextView folder, bool anew) {
     tellFailure(u"このフォルダのKEKKA.TXTは、表のﾌｧｲﾙです。別のフォルダを指定してください", kTitle);
     return false;
   }
+  if (isLink(path_)) {
+    tellFailure(u"このフォルダのKEKKA.TXTは、別の場所のﾌｧｲﾙへのﾘﾝｸです。別のフォルダを指定してください", kTitle);
+    return false;
+  }
   if ((anew ? file_.openOutput(path_) : file_.openAppend(path_)) == FileError::none) return true;
   tellFailure(spokenName(path_) + u"が開けません。フォルダを確認してください", kTitle);
   return false;
@@ -51,11 +56,16 @@ void Report::line(TextView text) {
   if (printLine(file_.number(), text) != FileError::none) failed_ = true;
 }
 
-void Report::head(TextView title) {
+Text fileLine() { return u"ﾌｧｲﾙ名:" + tableName(); }
+
+Text timeLine() {
   const DateTime now = host().now();
+  return PrintLine().text(shortDate(now)).zone().text(shortTime(now)).line();
+}
+
+void Report::head(TextView title) {
   head_.clear();
-  const Text when = PrintLine().text(shortDate(now)).zone().text(shortTime(now)).line();
-  for (const Text& text : {Text(title), u"ﾌｧｲﾙ名:" + tableName(), when}) {
+  for (const Text& text : {Text(title), fileLine(), timeLine()}) {
     line(text);
     head_ += text + kLineEnd;
   }

@@ -35,6 +35,10 @@ class Report {
   bool failed_ = false;
 };
 
+// The second and the third line of that head, for reports that order theirs otherwise.
+Text fileLine();
+Text timeLine();
+
 // The two forms of the line that tells which records a report covers.
 PrintLine recordsOfAccess(std::int32_t first, std::int32_t last);
 PrintLine recordsOfGroups(std::int32_t first, std::int32_t last);

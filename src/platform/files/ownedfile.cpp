@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/files/openfiles.h"
+#include "platform/files/workfiles.h"
 
 namespace zelko {
 
@@ -51,12 +52,16 @@ FileError OwnedFile::openToRead(TextView path, int recordLength) {
   return take([&](int number) { return openRandomToRead(number, path, recordLength); });
 }
 
-FileError OwnedFile::openInput(TextView path) {
-  return take([&](int number) { return zelko::openInput(number, path); });
+FileError OwnedFile::openInput(TextView path, std::int64_t most, std::size_t longestLine) {
+  return take([&](int number) { return zelko::openInput(number, path, most, longestLine); });
 }
 
 FileError OwnedFile::openOutput(TextView path) {
   return take([&](int number) { return zelko::openOutput(number, path); });
+}
+
+FileError OwnedFile::openNewOutput(TextView path) {
+  return take([&](int number) { return zelko::openNewOutput(number, path); });
 }
 
 FileError OwnedFile::openAppend(TextView path) {

@@ -18,8 +18,9 @@ class OwnedFile {
   FileError openRandom(TextView path, int recordLength);
   FileError createRandom(TextView path, int recordLength);
   FileError openToRead(TextView path, int recordLength);
-  FileError openInput(TextView path);
+  FileError openInput(TextView path, std::int64_t most = kNoBound, std::size_t longestLine = kLongestLine);
   FileError openOutput(TextView path);
+  FileError openNewOutput(TextView path);  // as in workfiles.h
   FileError openAppend(TextView path);
   // The error of what was still to be written.
   FileError close();

@@ -1,20 +1,37 @@
 #include "platform/text/numcheck.h"
 
 #include <charconv>
+#include <optional>
 #include <string>
 
+#include "platform/fault.h"
 #include "platform/text/number.h"
 
 namespace zelko {
 
+namespace {
+
+// As val, but a number beyond a double is none.
+std::optional<double> held(TextView text) {
+  try {
+    return val(text);
+  } catch (const Fault&) {
+    return std::nullopt;
+  }
+}
+
+}  // namespace
+
 int numCheck(TextView text) {
-  if (val(text) != 0) return 0;
+  const auto value = held(text);
+  if (value.value_or(0) != 0) return 0;
   int points = 0;
   for (std::size_t at = 0; at < text.size(); ++at) {
     const bool firstPoint = text[at] == u'.' && ++points == 1;
     const bool digit = text[at] >= u'0' && text[at] <= u'9';
     if (!digit && !firstPoint) return static_cast<int>(at) + 1;
   }
+  if (!value) return 1;
   return text.empty() ? kBlankCell : 0;
 }
 

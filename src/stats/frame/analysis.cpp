@@ -1,5 +1,6 @@
 #include "stats/frame/analysis.h"
 
+#include "parts/ask/typed.h"
 #include "parts/job/job.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
@@ -47,7 +48,7 @@ AnalysedCell checkedCell(const WalkedRecord& record, int item) {
   return cell;
 }
 
-double leadingNumber(const WalkedRecord& record, int item) { return val(record.trimmedCell(item)); }
+double leadingNumber(const WalkedRecord& record, int item) { return typedVal(record.trimmedCell(item)).value_or(0); }
 
 bool readAnalysisRecords(TextView work, const std::function<bool(const WalkedRecord&)>& look) {
   Walk walk;

@@ -29,9 +29,9 @@ struct AnalysedCell {
   double value = 0;  // of a number
   bool isNumber() const { return check == 0; }
 };
-// Text is tested first and read only where it is a number. A number beyond a double is told as a fault.
+// Text is tested first and read only where it is a number. A number beyond a double counts as text.
 AnalysedCell checkedCell(const WalkedRecord& record, int item);
-// The leading number, 0 where there is none.
+// The leading number, 0 where there is none or none that a double holds.
 double leadingNumber(const WalkedRecord& record, int item);
 
 // Shows the records of the analysis to the callback, behind a dialog of that work where it takes long. False where it

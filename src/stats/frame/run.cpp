@@ -66,14 +66,23 @@ void AnalysisRun::windowLine(TextView line) {
   *window_ += Text(line) + kLineEnd;
 }
 
-void AnalysisRun::compute(TextView work, std::int64_t steps) {
+bool AnalysisRun::beginBare() {
+  begun_ = report_.open(resultFolder(), resultIsNew());
+  return begun_;
+}
+
+void AnalysisRun::openWindow() {
+  if (windowOpen_) return;
   const Silence silence;
-  if (!windowOpen_) {
-    frmHelp& window = openReading({.caption = title_, .text = {}, .report = true});
-    window.setBusy(true);
-    window.show();
-    windowOpen_ = true;
-  }
+  frmHelp& window = openReading({.caption = title_, .text = {}, .report = true});
+  window.setBusy(true);
+  window.show();
+  windowOpen_ = true;
+}
+
+void AnalysisRun::compute(TextView work, std::int64_t steps) {
+  openWindow();
+  const Silence silence;
   progress_.reset();
   progress_.emplace(work, steps);
 }
@@ -84,6 +93,20 @@ bool AnalysisRun::step(std::int64_t done) {
     analysisMode = u"BREAK";
   }
   return !stopped_;
+}
+
+void AnalysisRun::rest() {
+  const Silence silence;
+  progress_.reset();
+}
+
+void AnalysisRun::lines(const std::vector<Text>& lines) {
+  Text block;
+  for (const Text& line : lines) {
+    report_.line(line);
+    block += (block.empty() ? Text() : Text(kLineEnd)) + line;
+  }
+  if (frmHelp* window = loadedForm<frmHelp>()) window->addLine(block);
 }
 
 void AnalysisRun::tell(TextView line) {

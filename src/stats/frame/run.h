@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include "parts/report/report.h"
 #include "platform/forms/form.h"
@@ -23,16 +24,24 @@ class AnalysisRun {
   bool begin(TextView folder, bool anew, TextView reportTitle);
   // The same with the folder and the tick of frmOUTF.
   bool begin(TextView reportTitle);
+  // The same without a head, for a report that orders its lines otherwise.
+  bool beginBare();
   Report& report() { return report_; }
   // A line of a report whose window differs from its file: the window then shows what was begun with and these lines,
   // in place of the whole file.
   void windowLine(TextView line);
 
-  // The window with its buttons disabled, and a dialog with the stop; `steps` of computing follow, 0 unknown.
+  // The window with its buttons disabled.
+  void openWindow();
+  // That window, and a dialog with the stop; `steps` of computing follow, 0 unknown.
   void compute(TextView work, std::int64_t steps);
   // Before each step: false once the user has asked to stop; analysisMode is "BREAK" then.
   bool step(std::int64_t done);
   bool stopped() const { return stopped_; }
+  // Before a question: the dialog with the stop goes, unheard; compute() brings it back.
+  void rest();
+  // Lines of the report that are seen in the window too.
+  void lines(const std::vector<Text>& lines);
   // A line of progress: in the window, and said where the gate allows.
   void tell(TextView line);
   // The same for one of very many steps: its line stands alone in the window, and what is said may differ from it.

@@ -1,10 +1,13 @@
 // The cache of records around the cursor.
 #include <algorithm>
+#include <set>
+#include <utility>
 
 #include "platform/fault.h"
 #include "store/records/cachedrows.h"
 #include "store/records/records.h"
 #include "store/table/cursor.h"
+#include "store/table/notice.h"
 
 namespace zelko {
 
@@ -13,6 +16,8 @@ namespace {
 constexpr int kDataFile = 1;
 
 std::array<RowAsRead, kCacheRows> asRead;
+std::set<std::int32_t> toldUnread;  // each record that can't be read is told once, until it can be
+bool unreadToTell = false;
 
 // 0 where the cache does not hold the record.
 std::size_t rowIndex(std::int32_t record) {
@@ -20,13 +25,26 @@ std::size_t rowIndex(std::int32_t record) {
   return at >= 0 && at < cacheSize ? static_cast<std::size_t>(at) + 2 : 0;
 }
 
+void setUnread(std::size_t index, std::int32_t record) {
+  setRow(recCache[index], slashRec);
+  asRead[index].unread = true;
+  unreadToTell = toldUnread.insert(record).second || unreadToTell;
+}
+
+void tellUnread() {
+  if (std::exchange(unreadToTell, false)) tellReadError();
+}
+
 void fillRow(std::size_t index, std::int64_t record, std::int32_t count, const std::string& outside) {
   RowAsRead& read = asRead[index];
   read.there = record <= count;
-  if (read.there)
-    getRec(kDataFile, static_cast<std::int32_t>(record), recCache[index]);
-  else
+  read.unread = false;
+  if (!read.there)
     setRow(recCache[index], outside);
+  else if (getRec(kDataFile, static_cast<std::int32_t>(record), recCache[index]))
+    toldUnread.erase(static_cast<std::int32_t>(record));
+  else
+    setUnread(index, static_cast<std::int32_t>(record));
   read.bytes = recCache[index];
 }
 
@@ -34,6 +52,7 @@ void fillRows(const std::string& outside) {
   const std::int32_t count = recCount();
   for (std::size_t i = 0; i < static_cast<std::size_t>(cacheSize); ++i)
     fillRow(i + 2, cacheBase + static_cast<std::int64_t>(i), count, outside);
+  tellUnread();
 }
 
 }  // namespace
@@ -68,6 +87,7 @@ void loadCache(std::int32_t record) {
 }
 
 void fillCache() {
+  toldUnread.clear();
   fillRows(slashRec);
   if (recCount() == 0) setRow(recCache[2], blankRec);
 }
@@ -79,6 +99,7 @@ void cacheScrollUp() {
   std::copy_backward(recCache.begin() + 2, behindLast(recCache) - 1, behindLast(recCache));
   std::copy_backward(asRead.begin() + 2, behindLast(asRead) - 1, behindLast(asRead));
   fillRow(2, cacheBase, recCount(), blankRec);
+  tellUnread();
 }
 
 void takeRow(std::int32_t record) { recCache[1] = rowOf(record); }

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "platform/files/files.h"
+#include "store/records/cachedrows.h"
 #include "store/table/mainform.h"
 #include "store/table/notice.h"
 
@@ -21,6 +22,12 @@ struct ToldFailure {
 };
 ToldFailure told;
 
+bool isNewFailure(int file, std::int32_t record, const CacheRow& bytes) {
+  if (told.file == file && told.record == record && told.bytes == bytes) return false;
+  told = {file, record, bytes};
+  return true;
+}
+
 void tellRefusedWrite(FileError error, int file, std::int32_t record, const CacheRow& bytes) {
   if (error == FileError::pathAccess) {
     if (readOnlyMarkShown()) return;
@@ -28,12 +35,14 @@ void tellRefusedWrite(FileError error, int file, std::int32_t record, const Cach
     tellReadOnly();
     return;
   }
-  if (told.file == file && told.record == record && told.bytes == bytes) return;
-  told = {file, record, bytes};
-  tellWriteError();
+  if (isNewFailure(file, record, bytes)) tellWriteError();
 }
 
 }  // namespace
+
+void tellUnstored(std::int32_t record, const CacheRow& row) {
+  if (isNewFailure(kDataFile, record, row)) tellReadError();
+}
 
 void forgetToldFailure() { told.file = 0; }
 

@@ -35,7 +35,8 @@ void setRow(CacheRow& row, std::string_view bytes);  // cut to 254 or padded wit
 bool flushRec();
 // The last flushRec was held back by the user, who wants to stay where the cursor is.
 bool storeWasHeldBack();
-// Reloads the cache centred on `record`, whole, from disk: flushRec must come first.
+// Reloads the cache centred on `record`, whole, from disk: flushRec must come first. A record that can't be read is
+// told, once, and its row is slashed; what is typed into that row is stored only where the record can be read by then.
 void loadCache(std::int32_t record);
 // The same with the rows outside the file slashed, from cacheBase on, as a table is opened.
 void fillCache();

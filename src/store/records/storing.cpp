@@ -24,7 +24,8 @@ RowAsRead onDisk(std::int32_t record) {
   std::size_t got = 0;
   const std::int64_t place = (std::int64_t{record} - 1) * recLen;
   const FileError error = readBlock(kDataFile, place, now.bytes.data(), recLen, got);
-  now.there = error == FileError::none && got == recLen;
+  now.unread = error != FileError::none;
+  now.there = !now.unread && got == recLen;
   if (!now.there) setRow(now.bytes, blankRec);
   return now;
 }
@@ -49,7 +50,7 @@ bool store(CacheRow& row, RowAsRead& read, const RowAsRead& now) {
   setRow(record, rowBytes(record));
   if (!closeGap() || !putRec(kDataFile, curRec, {record.data(), record.size()})) return false;
   row = record;
-  read = {record, true};
+  read = {record, true, false};
   return true;
 }
 
@@ -79,7 +80,11 @@ bool flushRec() {
 
   const bool replaced = openFileWasReplaced();
   RowAsRead now = onDisk(curRec);
-  if (replaced || !isSame(read, now)) {
+  if (!replaced && now.unread) {
+    tellUnstored(curRec, *row);
+    return false;
+  }
+  if (replaced || (!read.unread && !isSame(read, now))) {
     const Choice choice = askWhoseRecord(curRec, replaced);
     heldBack = choice == Choice::neither;
     if (heldBack) return false;
@@ -88,6 +93,7 @@ bool flushRec() {
     if (replaced && !reopenData()) return putRec(kDataFile, curRec, bytes);  // which tells why
     now = onDisk(curRec);
   }
+  if (read.unread && !now.there) return takeTheirs(false);  // of ours there is no whole record
   const bool stored = store(*row, read, now);
   if (curRec >= recCount()) mainFormHooks.showTitle();
   return stored;

@@ -6,6 +6,7 @@
 #include "platform/host.h"
 #include "store/records/records.h"
 #include "store/records/walkblock.h"
+#include "store/table/notice.h"
 #include "voice/progress.h"
 
 namespace zelko {
@@ -25,8 +26,9 @@ std::int64_t lengthOfWalk(const Walk& walk) {
 
 class Walker {
  public:
-  explicit Walker(const Walk& walk)
+  Walker(const Walk& walk, bool changes)
       : walk_(walk),
+        changes_(changes),
         shape_(walk.shape ? *walk.shape : RecordShape::ofOpenTable()),
         total_(lengthOfWalk(walk)),
         lowest_(std::max(walk.first, 1)),
@@ -97,7 +99,11 @@ class Walker {
 
   bool take(std::int32_t number) {
     if (!block_.holds(number) || isOld_) {
-      if (!block_.store(walk_.towardsHead) || !load(number)) return false;
+      if (!block_.store(walk_.towardsHead)) return false;
+      if (!load(number)) {
+        if (changes_) tellReadError();
+        return false;
+      }
       isOld_ = false;
     }
     record_.number_ = number;
@@ -113,6 +119,7 @@ class Walker {
   }
 
   const Walk& walk_;
+  const bool changes_;
   const RecordShape shape_;
   const std::int64_t total_;
   const std::int32_t lowest_, highest_;
@@ -145,11 +152,11 @@ bool ChangedRecord::store() { return walker_.storeNow(); }
 WalkEnd walkRecords(const Walk& walk, const std::function<bool(const WalkedRecord&)>& look) {
   Walk reading = walk;
   reading.lengthens = false;
-  return Walker(reading).run([&look](ChangedRecord& record) { return look(record); });
+  return Walker(reading, false).run([&look](ChangedRecord& record) { return look(record); });
 }
 
 WalkEnd changeRecords(const Walk& walk, const std::function<bool(ChangedRecord&)>& change) {
-  return Walker(walk).run(change);
+  return Walker(walk, true).run(change);
 }
 
 }  // namespace zelko

@@ -25,7 +25,7 @@ enum class WalkEnd {
   done,
   left,     // the callback said so
   stopped,  // by the user
-  failed,   // a record could not be read (not told) or not be written (told, once)
+  failed,   // a record could not be read (changeRecords tells it, walkRecords does not) or not be written (told, once)
 };
 
 // A record while it is visited. Its bytes stay where they are until the callback returns.

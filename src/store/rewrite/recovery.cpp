@@ -91,8 +91,9 @@ std::vector<Text> leftOvers(TextView folder) {
 }
 
 // Who says no is not asked again for that folder in this run.
+std::set<Text> refused;
+
 void offerLeftOvers(const Text& folder) {
-  static std::set<Text> refused;
   const std::vector<Text> names = leftOvers(folder);
   if (names.empty() || refused.contains(folder)) return;
   Text list;
@@ -166,6 +167,8 @@ bool offerRecovery(TextView fullName) {
   offerLeftOvers(folder);
   return true;
 }
+
+void resetRecovery() { refused.clear(); }
 
 bool roomForRewrite(TextView folder) {
   const std::optional<Swap> swap = interruptedSwap(folder);

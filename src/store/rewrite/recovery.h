@@ -35,6 +35,9 @@ bool finishSwap(const Swap& swap);
 // nothing is lost by either.
 bool offerRecovery(TextView fullName);
 
+// Who said no to deleting what was left in a folder is asked again, as by a program that starts.
+void resetRecovery();
+
 // Before a rewrite of a table in that folder: its work files must not take the place of those of an interrupted swap,
 // which is offered again. False, told, where it is still there.
 bool roomForRewrite(TextView folder);

@@ -12,7 +12,8 @@ enum class RewriteEnd {
   done,
   stopped,  // by the user; the table is as it was
   failed,   // a file could not be made, written or put in its place; nothing told
-  refused,  // an interrupted rewrite stands in the way, and the user was told; the table is as it was
+  refused,  // told: an interrupted rewrite stands in the way, or another program replaced the table meanwhile, which
+            // is as it was
 };
 
 // Asked on the way with the number of records that are done; false stops the work. Asked at each of the first

@@ -1,10 +1,12 @@
 // A rewrite of the open table: the work files, and their swap for the old ones.
 #include "platform/files/blockfiles.h"
+#include "platform/files/ownedfile.h"
 #include "platform/files/workfiles.h"
 #include "store/records/records.h"
 #include "store/rewrite/recovery.h"
 #include "store/rewrite/rewrite.h"
 #include "store/table/itemfile.h"
+#include "store/table/notice.h"
 
 namespace zelko {
 namespace {
@@ -30,6 +32,12 @@ bool readOld(std::int64_t first, std::size_t count, char* out) {
   return readBlock(kDataFile, first * recLen, out, size, got) == FileError::none && got == size;
 }
 
+// Of the file that the name leads to; empty where it leads to none.
+std::string identityOf(const Text& name) {
+  OwnedFile file;
+  return file.openToRead(name, recLen) == FileError::none ? fileIdentity(file.number()) : std::string();
+}
+
 // The new files of a rewrite, and whose place they take.
 struct Work {
   Text table = joinName(docDrive, docPath);  // as it was opened
@@ -37,8 +45,18 @@ struct Work {
   Text file = data.substr(0, data.rfind(u'/') + 1) + Text(kWorkFile);  // on the file system of the data
   Text items = itemFilePath(docPath, docDrive);
   Text itemFile = besideTable(kWorkItemFile);
-  FileMark mark;  // of `file`
+  FileMark mark;                           // of `file`
+  std::string stands = identityOf(table);  // the file that the name led to before a record was read
 };
+
+// Another program put another file there while the records were made: it is not discarded unseen.
+bool wasReplaced(const Work& work) {
+  const std::string now = identityOf(work.table);
+  if (now.empty() || now == work.stands) return false;
+  tellFailure(u"書き換えている間に、他のﾌﾟﾛｸﾞﾗﾑがﾌｧｲﾙを別のﾌｧｲﾙに置き換えました。書き換えわ、していません",
+              u"他のﾌﾟﾛｸﾞﾗﾑによる変更");
+  return true;
+}
 
 RewriteEnd makeWork(const RewritePlan& plan, const ReadRecords& read, const KeepGoing& keepGoing, Work& work) {
   if (openNewRandom(kWork, work.file, recLen) != FileError::none) return RewriteEnd::failed;
@@ -79,10 +97,11 @@ std::optional<Swap> swapOf(const Work& work, bool itemsToo) {
   return swap;
 }
 
-// An item file behind a link on another file system: the new one takes the place of the link.
+// An item file behind a link on another file system: the new one takes the place of the link. It has its name also
+// where only the folder could not be synced.
 bool swapItems(const Work& work) {
-  return replaceFile(work.itemFile, work.items) == FileError::none ||
-         renameOver(work.itemFile, work.items) == FileError::none;
+  if (replaceFile(work.itemFile, work.items) != FileError::none) renameOver(work.itemFile, work.items);
+  return lengthOf(work.itemFile) < 0;
 }
 
 // What could go wrong up to the new data file's name leaves the table alone.
@@ -109,6 +128,7 @@ RewriteEnd makeAndSwap(const RewritePlan& plan, const ReadRecords& read, const s
   RewriteEnd end = RewriteEnd::failed;
   if (items == nullptr || (!isReadOnly(work.items) && makeWorkItems(*items)))
     end = makeWork(plan, read, keepGoing, work);
+  if (end == RewriteEnd::done && wasReplaced(work)) end = RewriteEnd::refused;
   if (end == RewriteEnd::done && !swapWork(work, items != nullptr)) end = RewriteEnd::failed;
   if (end != RewriteEnd::done && !interruptedSwap(besideTable(u""))) {
     removeOwnName(work.file);

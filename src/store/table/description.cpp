@@ -88,7 +88,7 @@ Text lineHead(std::size_t base, std::size_t i) {
 bool writeLines(const TableDescription& table) {
   const auto highest = static_cast<std::int64_t>(table.items.size()) - 1;
   const auto line = [](const Text& text) { return printLine(kItemFile, text) == FileError::none; };
-  if (!line(u"100  '," + table.memo + u",," + decimal(highest))) return false;
+  if (!line(u"100  '" + table.reserved + u"," + table.memo + u",," + decimal(highest))) return false;
   for (std::size_t i = 0; i < table.items.size(); ++i)
     if (!line(lineHead(1000, i) + table.items[i].name + u"," + table.items[i].alignment)) return false;
   for (std::size_t i = 0; i < table.items.size(); ++i)

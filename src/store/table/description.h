@@ -18,6 +18,7 @@ struct ItemLine {
 struct TableDescription {
   std::vector<ItemLine> items;
   Text memo;
+  Text reserved = {};  // the field in front of the memo; written, and not read
 };
 
 enum class ReadResult {

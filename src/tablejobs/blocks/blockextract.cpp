@@ -84,6 +84,7 @@ void extractBlocks(FrmBROCK& dialog, const BlockRanges& ranges) {
   if (fullName.empty()) return;
   const auto items = numbersOfRange(ranges.items, std::size_t{kMaxItems});
   plan->description.memo = memoOfBlocks(spokenName(bareName(docPath)), *items, host().now());
+  plan->description.reserved = decimal(recLen);
   OutputTable output;
   if (!output.replace(fullName)) return;
   switch (makeTable(*plan, output)) {

@@ -43,10 +43,6 @@ Extraction::Extraction(const ExtractionControls& controls, ExtractionRules rules
   controls_.stop.onClick = [this] { stop(); };
   controls_.take.onClick = [this] { take(); };
   controls_.skip.onClick = [this] { skip(); };
-  controls_.form.onKeyUp = [this](KeyEvent& key) {
-    // The release of the key that left a candidate asks nothing.
-    if (key.is('N', shift::Alt) && std::exchange(skipped_, false)) key.swallow();
-  };
   controls_.stop.isCancel = true;
   controls_.take.isDefault = true;
   controls_.form.onClose = [this] { stop(); };
@@ -181,7 +177,6 @@ void Extraction::take() {
 }
 
 void Extraction::skip() {
-  skipped_ = true;
   if (!rules_.ready()) return;
   fire(rules_.onSkip);
   goOn(atRecord_ + 1);

@@ -79,7 +79,7 @@ class Extraction {
   std::int32_t atRecord_ = 1;  // of the scan
   CellAt saved_;               // the cursor when the form was opened
   std::string candidate_;      // its bytes
-  bool stopAsked_ = false, faultTold_ = false, writeFailed_ = false, skipped_ = false;
+  bool stopAsked_ = false, faultTold_ = false, writeFailed_ = false;
 };
 
 // The job "MSRCH" of the output dialog goes to the extraction that asked last.

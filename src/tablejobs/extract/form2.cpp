@@ -4,6 +4,7 @@
 #include "editor/main/inputbox.h"
 #include "editor/show/itemlist.h"
 #include "editor/show/sheet.h"
+#include "editor/show/showcell.h"
 #include "parts/job/job.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
@@ -36,6 +37,7 @@ void openExtraction(bool storesBox, TextView preset) {
   if (!beginJob(false, storesBox)) return;
   hideRangeMask();
   dropRange();
+  showUnheard();
   F& dialog = form<F>();
   if constexpr (requires { dialog.preset(preset); }) dialog.preset(preset);
   waitPastGate();

@@ -2,7 +2,9 @@
 #include <doctest/doctest.h>
 
 #include "platform/files/files.h"
+#include "platform/files/openfiles.h"
 #include "platform/host.h"
+#include "store/rewrite/file_calls.h"
 #include "store/store_fixture.h"
 #include "store/table/mainform.h"
 #include "store/table/readonly.h"
@@ -140,4 +142,30 @@ TEST_CASE("the read-only toggle asks, stores what was typed, and goes by the fil
   toggleReadOnly();
   CHECK(store.dialogs().back() == kWriteError);
   CHECK(store.files() == std::vector<std::string>{"Kt.txt"});
+}
+
+TEST_CASE("a record that can't be read is slashed and told, and only what was typed into it is ever stored") {
+  const Dialog readError = {u"読み込みエラー", u"読み込み時にエラーが出ました。"};
+  StoreFixture store;
+  store.table("t.txt", {3, 3}, {"one111", "two222"});
+  REQUIRE(store.open("t.txt"));
+  const std::string before = store.bytes("t.txt");
+  dropWindows();
+  failAtRead(1);
+  loadCache(1);
+  stopCounting();
+  CHECK(store.dialogs() == Dialogs{readError});
+  CHECK(rowBytes(currentRow()) == slashRec);
+  CHECK(flushRec());
+  setCell(currentRow(), 0, u"x");
+  for (int attempt = 0; attempt < 2; ++attempt) {
+    failAtRead(1);
+    CHECK_FALSE(flushRec());
+    stopCounting();
+    CHECK(store.dialogs() == (attempt == 0 ? Dialogs{readError} : Dialogs{}));
+    CHECK(store.bytes("t.txt") == before);
+  }
+  CHECK(flushRec());
+  CHECK(store.dialogs().empty());
+  CHECK(store.bytes("t.txt") == record("x  111") + record("two222"));
 }

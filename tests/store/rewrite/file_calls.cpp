@@ -133,6 +133,10 @@ int renameat2(int oldFolder, const char* from, int newFolder, const char* to, un
                                                                                            to, flags);
 }
 
+int mkdir(const char* name, mode_t mode) noexcept {
+  return stumbles(true) ? -1 : real<int(const char*, mode_t)>("mkdir")(name, mode);
+}
+
 int fchmod(int file, mode_t mode) noexcept { return stumbles() ? -1 : real<int(int, mode_t)>("fchmod")(file, mode); }
 
 int chmod(const char* name, mode_t mode) noexcept {

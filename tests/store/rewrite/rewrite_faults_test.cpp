@@ -94,6 +94,7 @@ TEST_CASE(
       CHECK(store.open("t.txt") == isWhole);
       CHECK(filesOf(store) == left);
       store.answerQuestions(kYes);
+      resetRecovery();
       REQUIRE(store.open("t.txt"));
       swaps += isWhole ? 0 : 1;
       CHECK(filesOf(store) == (isWhole ? left : after));
