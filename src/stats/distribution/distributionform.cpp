@@ -111,6 +111,7 @@ void frmDIST::readup(int item, std::int32_t first, std::int32_t last) {
   last_ = lastRecord = last;
   if (talkMode != 0) talkNow(u"ｺｳﾓｸ" + decimal(item) + u"ﾉﾌﾞﾝﾌﾟﾋｮｳｻｸｾｲﾁｭｳ");
   if (!load()) {
+    if (stopped_) return sayNews(u"強制終了!!");
     host().beep();
     return showOK(u"数値データ数が０個なので分布表は描けません", u"データ個数不足");
   }
@@ -127,7 +128,8 @@ bool frmDIST::load() {
   data_ = {};
   data_.classes = nClass_;
   walked_ = 1;
-  if (!readValues(item_, data_.values)) data_.values.clear();
+  stopped_ = !readValues(item_, data_.values);
+  if (stopped_) data_.values.clear();
   analysisMode = table_ ? Text(u"TABLE") : Text();
   Picture1.clear();
   fillLabels();

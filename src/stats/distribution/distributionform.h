@@ -88,7 +88,8 @@ class frmDIST : public Form {
   float yScale_ = 1;
   int walked_ = 1;  // the class that was read last
   bool table_ = false;
-  bool asking_ = false;  // between two questions the picture has nothing to say
+  bool stopped_ = false;  // the reading of the item
+  bool asking_ = false;   // between two questions the picture has nothing to say
   ShapeKey shape_;
   PictureBox sheet_{*this, u"Picture2"};  // graph and figures in one, for paper and file
 };

@@ -3,6 +3,7 @@
 #include "editor/main/commands.h"
 #include "platform/forms/form.h"
 #include "stats/distribution/distributionform.h"
+#include "stats/distribution/groupform.h"
 #include "stats/frame/analysis.h"
 #include "store/table/cursor.h"
 #include "voice/heard.h"
@@ -27,6 +28,8 @@ void showDistribution() {
 
 void registerDistribution() {
   registerForm<frmDIST>();
+  registerForm<frmMDIST>();
+  registerCommand(u"mnuSUII", showGroupDistributions);
   registerCommand(u"mnuDIST", showDistribution);
 }
 
