@@ -26,10 +26,7 @@ frmHelp::frmHelp() : Form(kName, u"ﾍﾙﾌﾟ") {
   Command2.onClick = [this] { reading_.save ? reading_.save(RichTextBox1.content()) : host().beep(); };
   Command3.onClick = [this] { reading_.showResults ? reading_.showResults() : host().beep(); };
   Command4.onClick = [this] { screen().unload(*this); };
-  RichTextBox1.onKeyDown = [this](KeyEvent& key) {
-    if (tables_.keyDown(key)) return key.swallow();
-    reader_.keyDown();
-  };
+  RichTextBox1.onKeyDown = [this](KeyEvent&) { reader_.keyDown(); };
   narrate();
   // While work goes on its questions come and go in front of this window: it is seen, and says nothing.
   RichTextBox1.onGotFocus = [this, spoken = RichTextBox1.onGotFocus] {
@@ -69,7 +66,7 @@ void frmHelp::setBusy(bool busy) {
 }
 
 void frmHelp::frmHelp_RichTextBox1_KeyUp(KeyEvent& key) {
-  if (TableWalk::isKey(key) || reader_.keyUp(key)) return;
+  if (reader_.keyUp(key)) return;
   const bool wanted = talkMode != 0 && isRepeatKey(key);
   talkTextKey(key.code, key.mask, 0, wanted ? caption() + u"ﾃｷｽﾄﾎﾞｯｸｽ" : Text());
 }

@@ -4,7 +4,6 @@
 #include <functional>
 
 #include "parts/reading/linereader.h"
-#include "parts/reading/tablewalk.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
 
@@ -43,7 +42,6 @@ class frmHelp : public Form {
   void frmHelp_Command1_Click();
 
   LineReader reader_{RichTextBox1, {}};
-  TableWalk tables_{RichTextBox1};
   Reading reading_;
   bool busy_ = false;
 };

@@ -55,10 +55,7 @@ frmKEKKA::frmKEKKA() : Form(kName, u"KEKKA表示・編集") {
 }
 
 void frmKEKKA::wire() {
-  RichTextBox1.onKeyDown = [this](KeyEvent& key) {
-    if (tables_.keyDown(key)) return key.swallow();
-    reader_.keyDown();
-  };
+  RichTextBox1.onKeyDown = [this](KeyEvent&) { reader_.keyDown(); };
   RichTextBox1.onChange = [this] { frmKEKKA_RichTextBox1_Change(); };
   Text1.onChange = [this] {
     if (!filling_) talkRichChange(Text1, previousName_);
@@ -102,7 +99,7 @@ void frmKEKKA::frmKEKKA_RichTextBox1_Change() {
 }
 
 void frmKEKKA::frmKEKKA_RichTextBox1_KeyUp(KeyEvent& key) {
-  if (TableWalk::isKey(key) || reader_.keyUp(key)) return;
+  if (reader_.keyUp(key)) return;
   const bool wanted = talkMode != 0 && isRepeatKey(key);
   talkTextKey(key.code, key.mask, 0, wanted ? Text(kBox) : Text());
 }

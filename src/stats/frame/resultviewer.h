@@ -2,7 +2,6 @@
 #pragma once
 
 #include "parts/reading/linereader.h"
-#include "parts/reading/tablewalk.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
 
@@ -38,7 +37,6 @@ class frmKEKKA : public Form {
   void frmKEKKA_Command9_Click();
 
   LineReader reader_{RichTextBox1, {}};
-  TableWalk tables_{RichTextBox1};
   Text previous_, previousName_;
   Text loaded_, loadedPath_;  // the text as the file has it
   bool filling_ = false;
