@@ -11,6 +11,7 @@
 #include "stats/calculators/calculatorform.h"
 #include "stats/cluster/registercluster.h"
 #include "stats/correlation/registercorrelation.h"
+#include "stats/distribution/registerdistribution.h"
 #include "stats/factor/factorrun.h"
 #include "stats/frame/registerframe.h"
 #include "stats/frequency/registerfrequency.h"
@@ -46,6 +47,7 @@ void wireProgram() {
   registerTForm();
   registerUForm();
   registerFrequency();
+  registerDistribution();
   registerCorrelation();
   registerFactor();
   registerCluster();
