@@ -20,7 +20,7 @@ struct Kanji {
 };
 
 constexpr Kanji kKanji[] = {
-#include "descriptions.inc"
+#include <descriptions.inc>  // made while the program is built
 };
 
 const Kanji* kanjiOf(TextView character) {
