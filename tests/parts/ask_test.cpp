@@ -24,8 +24,7 @@ TEST_CASE("typed numbers are whole numbers or nothing") {
 }
 
 TEST_CASE("an item is asked until it is one; a wrong answer beeps and is named") {
-  Fixture user;
-  resetTable();
+  test::Session user;
   itemCount = 3;
   talkMode = 1;
   std::optional<std::int16_t> item;

@@ -2,10 +2,9 @@
 
 #include <doctest/doctest.h>
 
-#include "fixture.h"
 #include "platform/forms/form.h"
+#include "session.h"
 #include "store/table/table.h"
-#include "voice/talk.h"
 
 using namespace zelko;
 
@@ -29,13 +28,10 @@ using Marks = std::vector<std::int16_t>;
 }  // namespace
 
 TEST_CASE("items are marked with the keypad, moved over and let go") {
-  Fixture user;
-  resetTable();
-  resetTalk();
+  test::Session user;
   itemCount = 3;
   for (int item = 1; item <= 3; ++item)
     itemName[static_cast<std::size_t>(item)] = Text(1, static_cast<char16_t>(u'＠' + item));
-  talkMode = 2;
   const auto heardAt = [&](const char* key) {
     user.press(key);
     return user.said();
@@ -68,5 +64,4 @@ TEST_CASE("items are marked with the keypad, moved over and let go") {
   user.press("Num2");
   CHECK(two.marked(1) == Marks{1});
   CHECK(two.marked(2).empty());
-  user.run([] { screen().reset(); });
 }

@@ -4,19 +4,17 @@
 
 #include <algorithm>
 
-#include "fixture.h"
 #include "parts/reading/textfile.h"
 #include "parts/report/report.h"
 #include "platform/text/sjis.h"
+#include "session.h"
 #include "store/table/table.h"
 #include "voice/talk.h"
 
 using namespace zelko;
 
 TEST_CASE("a report is appended to, read line by line, printed; a file of a table is no report") {
-  Fixture user;
-  resetTable();
-  resetTalk();
+  test::Session user;
   docPath = user.makeTable(u"点", {{u"ID", 4}}, {{u"1"}});
   const Text folder = fromUtf8(user.folder().string());
   writeBytes(user.folder() / "kekka.txt", "before\r\n");
@@ -33,7 +31,6 @@ TEST_CASE("a report is appended to, read line by line, printed; a file of a tabl
         "before\r\nクロス集計\r\nﾌｧｲﾙ名:点.txt\r\n2026/01/05    10:00:00\r\n"
         "■ファイル名:点.txt(Record: 1  ----  12 )\r\n\r\n");
 
-  talkMode = 2;
   Text saved;
   user.run([&] { showReading({u"クロス集計", text, true, u"終了しました", [&](const Text& now) { saved = now; }}); });
   user.play("wait 1");

@@ -58,16 +58,6 @@ class Reading : public Fixture {
 
 }  // namespace
 
-TEST_CASE("the user's copy is kept when the copying key is released") {
-  Reading session(1, u"あい");
-  session.host().copyElsewhere(u"写し");
-  session.press("Tab");
-  userClip.clear();
-  session.host().copyElsewhere(u"写し。｡.");
-  session.press("Ctrl+Insert");
-  CHECK(userClip == u"写し。｡.");
-}
-
 TEST_CASE("the caret in lines: line, column and ten characters to each side") {
   struct Row {
     TextView text;
@@ -75,17 +65,15 @@ TEST_CASE("the caret in lines: line, column and ten characters to each side") {
     const char* heard;
   };
   const TextView lines = u"一二三\r\nあいうえおかきくけこさし\r\n終";
-  const Row rows[] = {
-      {u"", 0, "先頭ぎょう1もじめキャレット"},
-      {u"あいうえおかきくけこさ", 0, "先頭ぎょう1もじめキャレットあいうえおかきくけこ"},
-      {u"あいうえおかきくけこさ", 11, "12もじめいうえおかきくけこさキャレット"},
-      {lines, 0, "先頭ぎょう1もじめキャレット一二三\\n"},
-      {lines, 2, "1ぎょう3もじめ一二キャレット三\\n"},
-      {lines, 3, "1ぎょう4もじめ一二三キャレット\\n"},
-      {lines, 5, "2ぎょう1もじめキャレットあいうえおかきくけこ"},
-      {lines, 17, "2ぎょう13もじめうえおかきくけこさしキャレット\\n"},
-      {lines, 20, "最終ぎょう2もじめ終キャレット"},
-  };
+  const Row rows[] = {{u"", 0, "先頭ぎょう1もじめキャレット"},
+                      {u"あいうえおかきくけこさ", 0, "先頭ぎょう1もじめキャレットあいうえおかきくけこ"},
+                      {u"あいうえおかきくけこさ", 11, "12もじめいうえおかきくけこさキャレット"},
+                      {lines, 0, "先頭ぎょう1もじめキャレット一二三\\n"},
+                      {lines, 2, "1ぎょう3もじめ一二キャレット三\\n"},
+                      {lines, 3, "1ぎょう4もじめ一二三キャレット\\n"},
+                      {lines, 5, "2ぎょう1もじめキャレットあいうえおかきくけこ"},
+                      {lines, 17, "2ぎょう13もじめうえおかきくけこさしキャレット\\n"},
+                      {lines, 20, "最終ぎょう2もじめ終キャレット"}};
   for (const Row& row : rows) {
     CAPTURE(row.caret);
     Reading session(1, row.text);

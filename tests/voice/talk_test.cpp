@@ -58,15 +58,6 @@ TEST_CASE("a wait of the gap ends past the gate at every time of day") {
   }
 }
 
-TEST_CASE("a wait across midnight ends the run") {
-  Fixture session;
-  startSpeech(session, 1);
-  session.host().setClock({2026, 1, 5, 23, 59, 59});
-  session.run([] { waitSec(1.8); });
-  CHECK(session.ended());
-  CHECK(session.events().back().starts_with("fault オーバーフロー"));
-}
-
 TEST_CASE("marks at the front and blanks at the end of a sentence") {
   struct Row {
     TextView sentence;

@@ -48,7 +48,7 @@ bool isKnown(const std::string& name) {
   static constexpr std::array<std::string_view, 10> names = {
       "ZLKCLip", "ZLKCLip.bak", "ZLKCLip.for", "zlkTalk", "mAgent", "zlkHAHAKI", "zlkTEL", "zlkPORT", "KEKKA", "EKKA"};
   if (std::find(names.begin(), names.end(), name) != names.end()) return true;
-  return name.ends_with(".txt") || name.ends_with(".TXT");
+  return name.ends_with(".txt") || name.ends_with(".TXT") || name.ends_with(".csv");
 }
 
 // At the other levels less is said, and only what is asked for.
@@ -58,38 +58,6 @@ bool mainFormIsFree() {
   const Form* form = screen().activeForm();
   return form && form->name() == u"Form1" &&
          std::none_of(screen().shown().begin(), screen().shown().end(), [](const Form* f) { return f->modal(); });
-}
-
-// The silences that are known, each until somebody gives it a word: what begins the line, and the place.
-struct Listed {
-  std::string_view line, place;
-};
-constexpr Listed kListed[] = {
-    // A jump that ends where it began stores what was typed, and tells neither.
-    {"menu mnuEXT", "Form1.txtinputbox"},
-    {"menu mnuHOME", "Form1.txtinputbox"},
-    {"menu mnuNr", "Form1.txtinputbox"},
-    {"key Ctrl+Left", "Form1.txtinputbox"},
-    {"key Ctrl+Right", "Form1.txtinputbox"},
-    {"key Ctrl+Up", "Form1.txtinputbox"},
-    {"key Ctrl+Down", "Form1.txtinputbox"},
-    // The cell is put back without a word where the cursor stands on it already.
-    {"menu mnuCTRLU", "Form1.txtinputbox"},
-    {"key Ctrl+U", "Form1.txtinputbox"},
-    // What is typed into the boxes of the range isn't echoed.
-    {"key ", "frmHANI.Text"},
-    // The button that copies and stays where it is.
-    {"key Enter", "Form1.Command1"},
-    {"key Space", "Form1.Command1"},
-    // The list of the items opened from a box where something is typed; the alignment turned in its own box.
-    {"key Ctrl+L", "Form1.txtinputbox"},
-    {"menu mnuRL", "Form1.txtLR"},
-};
-
-bool isListed(const std::string& line, const std::string& place) {
-  return std::any_of(std::begin(kListed), std::end(kListed), [&](const Listed& listed) {
-    return line.starts_with(listed.line) && place.starts_with(listed.place);
-  });
 }
 
 std::string placeOfFocus() {
@@ -115,6 +83,9 @@ void Rules::before(const std::string& line) {
   if (first_.empty()) first_ = filesHere();
   if (line.starts_with("step ")) burst_ = line == "step 0";
   if (line == "menu mnuAGENT" || line == "menu mnuINH") otherVoice_ = true;
+  const Form* active = screen().activeForm();
+  // The reader of a text asks under which name it shall be kept: any name is a file then.
+  if (active && active->name() == u"frmTin" && screen().loaded(u"frmHelp")) namesFile_ = true;
   line_ = line;
   place_ = placeOfFocus();
   state_ = stateOfUser();
@@ -127,7 +98,7 @@ std::string Rules::brokenByFiles() {
     if (isTable(name, files)) {
       if (std::string broken = brokenRecords(bytes); !broken.empty()) return broken;
     }
-    if (isWorkFile(name) ? mainFormIsFree() : !isKnown(name)) return "a stray file " + name;
+    if (isWorkFile(name) ? mainFormIsFree() : !isKnown(name) && !namesFile_) return "a stray file " + name;
   }
   if (manner_ == Manner::onlyLooking && !first_.empty() && files != first_) return "looking changed a file";
   return "";
@@ -137,7 +108,7 @@ std::string Rules::brokenBySilence() const {
   const bool menu = line_.starts_with("menu ");
   if ((!menu && !line_.starts_with("key ")) || burst_ || otherVoice_ || talkMode != kUsualLevel || !heard_.empty())
     return "";
-  if ((!menu && state_ == stateOfUser()) || isListed(line_, place_)) return "";
+  if (!menu && state_ == stateOfUser()) return "";
   return "silence: " + line_ + " at " + place_;
 }
 

@@ -28,6 +28,7 @@ class Rules {
   Manner manner_;
   std::string line_, place_, state_;  // the last line, where the focus was, and what stood there
   bool otherVoice_ = false;           // the talking character, or another time between sentences, was chosen
+  bool namesFile_ = false;            // a name for a file may have been typed
   bool burst_ = false;                // no time passes between the lines
   std::vector<std::string> heard_;
   std::map<std::string, std::string> first_;  // the files when nothing had been done

@@ -34,6 +34,13 @@ void shiftData(void (*shift)(int), TextView sentence) {
   talkGated(sentence);
 }
 
+// Who is in the box already hears it again.
+void goToAlignment() {
+  TextBox& box = mainForm().txtLR;
+  if (box.hasFocus()) return box.onGotFocus();
+  box.setFocus();
+}
+
 constexpr const char16_t* kHowToInsert =
     u"項目を挿入します。挿入したい位置の項目で、alt+←またはalt+→を叩くと、項目範囲の指定が始まります。"
     u"左右矢印キーで、挿入する項目数だけ範囲を広げ、CRキーで範囲を決めて下さい。その直後にInsキーを叩き、確認に、はい、"
@@ -55,6 +62,7 @@ constexpr const char16_t* kHowToMove =
 void copyCellToBox() {
   fillBoxWithCell();
   focusInputBox();
+  if (inputText().empty()) talkGated(u"ブランク");
 }
 
 void clearCell() {
@@ -73,7 +81,7 @@ void registerCellCommands() {
   registerCommand(u"mnuSLEFT", [] { shiftData(shiftLeft, u"ﾃﾞｰﾀｶﾞｲﾁｺｳﾓｸﾋﾀﾞﾘｼﾌﾄｼﾏｼﾀ"); });
   registerCommand(u"mnuIDAUTO", idAuto);
   registerCommand(u"mnuLIMIT", setLimit);
-  registerCommand(u"mnuRL", [] { mainForm().txtLR.setFocus(); });
+  registerCommand(u"mnuRL", goToAlignment);
   registerCommand(u"mnuFbt", toggleReadOnly);
   registerCommand(u"mnuEND", leaveProgram);
   registerCommand(u"mnuITEMINS", [] { showOK(kHowToInsert, u"項目の挿入の仕方"); });

@@ -62,6 +62,11 @@ bool toFirstRecord(int) {
   return true;
 }
 
+bool toFirstRecordAndReport(int) {
+  goToFirstRecordAndReport();
+  return true;
+}
+
 bool toLastRecord(int) {
   goToLastRecord();
   return true;
@@ -169,7 +174,7 @@ constexpr KeyRow kKeyRows[] = {
     {key::PageDown, shift::Ctrl, toNewLine},
     {key::Up, shift::None, keyUp},
     {key::Up, shift::Ctrl, toFirstRecord},
-    {key::PageUp, shift::Ctrl, toFirstRecord},
+    {key::PageUp, shift::Ctrl, toFirstRecordAndReport},
     {key::Right, shift::None, keyRight},
     {key::Right, shift::Ctrl, toLastItem},
     {key::Left, shift::None, keyLeft},

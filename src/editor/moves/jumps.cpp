@@ -9,6 +9,7 @@
 #include "editor/moves/moves.h"
 #include "editor/show/showcell.h"
 #include "parts/ask/typed.h"
+#include "parts/cells.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "platform/text/width.h"
@@ -28,9 +29,29 @@ void goToItem(std::int16_t item) {
   showCell(static_cast<float>(curRec), curItem, {}, {});
 }
 
+// A jump to where the cursor is already changes no number, and is heard all the same.
+void jump(std::int32_t record, std::int16_t item) {
+  const bool stays = record == curRec && item == curItem;
+  goTo(record, item);
+  if (stays) announceCell();
+}
+
+void jumpToItem(std::int16_t item) {
+  const bool stays = item == curItem;
+  goToItem(item);
+  if (stays) announceCell();
+}
+
 }  // namespace
 
 void goToFirstRecord() {
+  MoveScope moving;
+  if (!commitBox()) return;
+  cacheBase = 1;
+  jump(1, curItem);
+}
+
+void goToFirstRecordAndReport() {
   MoveScope moving;
   if (!commitBox()) return;
   cacheBase = 1;
@@ -40,32 +61,32 @@ void goToFirstRecord() {
 void goToLastRecord() {
   MoveScope moving;
   if (!commitBox()) return;
-  goTo(std::max(recCount(), 1), curItem);
+  jump(std::max(recCount(), 1), curItem);
 }
 
 void goToNewLine() {
   MoveScope moving;
   if (!commitBox()) return;
-  goTo(recCount() + 1, curItem);
+  jump(recCount() + 1, curItem);
 }
 
 void goToLastItem() {
   MoveScope moving;
   if (!commitBox()) return;
-  goToItem(itemCount);
+  jumpToItem(itemCount);
 }
 
 void goToFirstItem() {
   MoveScope moving;
   if (!commitBox()) return;
-  goToItem(firstDataItem());
+  jumpToItem(firstDataItem());
 }
 
 void goHome() {
   MoveScope moving;
   if (!commitBox()) return;
   cacheBase = 1;
-  goTo(1, firstDataItem());
+  jump(1, firstDataItem());
 }
 
 void goToNextRecordStart() {

@@ -6,6 +6,7 @@
 namespace zelko {
 
 void goToFirstRecord();
+void goToFirstRecordAndReport();  // says nothing where the cursor stays: the release of the key reports the item
 void goToLastRecord();
 void goToNewLine();
 void goToLastItem();

@@ -6,6 +6,7 @@
 
 #include "editor/formulas/sums.h"
 #include "editor/main/commands.h"
+#include "editor/main/filling.h"
 #include "editor/main/form1.h"
 #include "editor/main/inputbox.h"
 #include "editor/main/state.h"
@@ -72,6 +73,11 @@ void goToTypedCorner() {
   if (rangeKind != 2) curItem = rangeItem2;
 }
 
+// As the number boxes of the main form do.
+void echoNumber(const TextBox& box) {
+  if (!Filling::runs()) talkGated(box.content().empty() ? Text(u"ブランク") : box.content());
+}
+
 void followCursor() {
   if (rangeKind != 3) rangeRec2 = curRec;
   if (rangeKind != 2) rangeItem2 = curItem;
@@ -89,6 +95,7 @@ frmHANI::frmHANI() : Form(kName, kTitles[kindIndex()]) {
   Text5.invisible = true;
   Command2.isDefault = true;
   Command1.isCancel = true;
+  for (TextBox* box : {&Text1, &Text2, &Text3, &Text4}) box->onChange = [box] { echoNumber(*box); };
   Text5.onKeyDown = [this](KeyEvent& key) { frmHANI_Text5_KeyDown(key); };
   Text5.onKeyUp = [this](KeyEvent& key) { frmHANI_Text5_KeyUp(key); };
   Command2.onClick = [this] { frmHANI_Command2_Click(); };
@@ -126,6 +133,7 @@ void frmHANI::choose() {
 }
 
 void frmHANI::fillBoxes() {
+  const Filling filling;
   Text1.setText(decimal(rangeRec1));
   Text2.setText(decimal(rangeRec2));
   Text3.setText(decimal(rangeItem1));

@@ -117,7 +117,7 @@ void ItemChoice::keyDown(KeyEvent& key) {
 }
 
 void ItemChoice::keyUp(const KeyEvent& key) {
-  if (key.mask == shift::None && movesRow(key.code)) talkGated(moveSentence());
+  if ((key.mask == shift::None || key.mask == shift::Ctrl) && movesRow(key.code)) talkGated(moveSentence());
 }
 
 void ItemChoice::markGroup(int group) {

@@ -45,7 +45,9 @@ bool beginJob(bool changes, bool storesBox) {
   if (changes && refusedAsReadOnly()) return false;
   editorHooks.storeTyped(storesBox);
   // With the box the row was stored too: who held it back is not asked again.
-  return !(storesBox && storeWasHeldBack()) && flushRec();
+  const bool stored = !(storesBox && storeWasHeldBack()) && flushRec();
+  if (!stored) host().beep();  // where the reason was told before, nothing else is heard
+  return stored;
 }
 
 void endJob(JobEnd end, bool keepsRange, const Text& said, const std::function<void()>& tellFailure) {

@@ -82,8 +82,8 @@ bool isThere(const Swap& swap, TextView fullName) {
 }
 
 std::vector<Text> leftOvers(TextView folder) {
-  constexpr TextView kNames[] = {kWorkFile,     kWorkItemFile, kSwapNote,      u"KSAVE.QQQ",
-                                 u"HENKAN.QQQ", u"CLIP.QQQ",   u"CLIPBAK.QQQ", u"CLIPFOR.QQQ"};
+  constexpr TextView kNames[] = {kWorkFile,   kWorkItemFile,  kSwapNote,      u"KSAVE.QQQ", u"HENKAN.QQQ",
+                                 u"CLIP.QQQ", u"CLIPBAK.QQQ", u"CLIPFOR.QQQ", u"CSV.QQQ"};
   std::vector<Text> found;
   for (const TextView name : kNames)
     if (isLeftOver(Text(folder) + Text(name))) found.emplace_back(name);

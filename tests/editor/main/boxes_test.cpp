@@ -20,15 +20,7 @@ const Rows kRecords = {{u"1", u"山田", u"80"}, {u"2", u"x", u"7"}, {u"3", u"y"
 
 }  // namespace
 
-TEST_CASE_FIXTURE(EditorFixture, "a jump stores what was typed and ends the numbering") {
-  open(kItems, kRecords, 1);
-  autoIdOn = 1;
-  play({"Right", "commit z", "focus txtREC", "type 2", "Enter"});
-  CHECK(record(1) == "1  z      80");
-  CHECK(autoIdOn == 0);
-}
-
-TEST_CASE_FIXTURE(EditorFixture, "the sheet shows the cached records, the cursor, what is typed and the masks") {
+TEST_CASE_FIXTURE(EditorFixture, "the sheet shows the cached records, the cursor and what is typed") {
   open(kItems, kRecords, 0);
   auto& sheet = form<frmSHEET>();
   Grid& grid = sheet.Grid1;
@@ -41,18 +33,6 @@ TEST_CASE_FIXTURE(EditorFixture, "the sheet shows the cached records, the cursor
   CHECK(utf8(sheet.Label1.caption()) == "zz");
   play({"Esc"});
   CHECK(utf8(sheet.Label1.caption()) == "x");
-  rangeMask(3, 2, 1, 0, 255);
-  targetMask(500, 600, 0, 1, 65280);
-  REQUIRE(grid.masks().size() == 1);
-  CHECK(grid.masks()[0].row1 == 2);
-  CHECK(grid.masks()[0].row2 == 3);
-  CHECK(grid.masks()[0].col1 == 1);
-  CHECK(grid.masks()[0].col2 == 2);
-  rangeKind = 1;
-  reloadCur();
-  hideTargetMask();
-  CHECK(grid.masks().empty());
-  CHECK(rangeKind == 0);
 }
 
 TEST_CASE_FIXTURE(EditorFixture, "the card shows the current record item by item") {

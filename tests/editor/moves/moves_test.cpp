@@ -11,29 +11,6 @@
 using namespace zelko;
 using namespace zelko::test;
 
-namespace {
-
-const std::vector<ItemOfTable> kItems = {{u"ID", 4}, {u"氏名", 10}, {u"点", 3, u'R'}};
-const Rows kRecords = {{u"1", u"山田", u"80"}, {u"2", u"", u"7"}, {u"3", u"ｻﾄｳ", u""}};
-
-std::pair<int, int> cursor() { return {curRec, curItem}; }
-
-}  // namespace
-
-TEST_CASE_FIXTURE(EditorFixture, "while a range is chosen the moves store and show nothing") {
-  open(kItems, kRecords, 2);
-  mainForm().txtinputbox.setFocus();
-  play({"type x"});
-  nextItem(MoveFor::range);
-  nextRec(curItem, MoveFor::range);
-  prevRec(curItem, MoveFor::range);
-  CHECK(cursor() == std::pair{1, 1});
-  CHECK(utf8(mainForm().txtREC.content()) == "1");
-  CHECK(utf8(mainForm().txtinputbox.content()) == "x");
-  reloadCur(1);
-  CHECK(utf8(mainForm().txtItemnum.content()) == "1");
-}
-
 TEST_CASE_FIXTURE(EditorFixture, "a long table scrolls both ways through a small cache") {
   Rows many;
   for (int i = 1; i <= 60; ++i) many.push_back({decimal(i)});

@@ -3,7 +3,6 @@
 
 #include "editor/ranges/range_fixture.h"
 #include "editor/ranges/rangedialog.h"
-#include "editor/show/view.h"
 #include "platform/forms/routing.h"
 #include "store/records/records.h"
 
@@ -13,8 +12,6 @@ using namespace zelko::test;
 namespace {
 
 const std::string kRed = "255";
-
-bool ends(const Heard& heard, const std::string& tail) { return !heard.empty() && heard.back().ends_with(tail); }
 
 }  // namespace
 
@@ -30,23 +27,6 @@ TEST_CASE_FIXTURE(RangeFixture, "a corner may be typed; one that the table has n
   run([] { form<frmHANI>().Text4.setText(u"5"); });
   CHECK(play({"Enter"}).front() == "beep");
   CHECK(mode == u"HTYU");
-}
-
-TEST_CASE_FIXTURE(RangeFixture, "where no range can begin") {
-  table(2);
-  play({"Ctrl+PageDown"});
-  for (const char* key : {"Shift+Up", "Alt+Down", "Alt+Left"}) CHECK(play({key}) == Heard{"beep"});
-  CHECK(rangeKind == 0);
-  play({"Up", "type ab"});
-  play({"Shift+Left"});
-  CHECK(rangeKind == 0);  // a selection in the box
-  play({"Esc"});
-  run([] { showView(1); });
-  CHECK(ends(play({"Shift+Down"}), "個別記録表示中は範囲の指定は出来ません。OKならCRを叩いてください。"));
-  run([] {
-    if (Form* notice = screen().loaded(u"FrmOK")) screen().unload(*notice);
-    showView(0);
-  });
 }
 
 TEST_CASE_FIXTURE(RangeFixture, "what was typed belongs to the cell where the range began") {
@@ -95,10 +75,4 @@ TEST_CASE_FIXTURE(RangeFixture, "a key says what it did once, whatever is releas
   down(key::Enter, shift::None);
   CHECK(range() == std::vector{1, 1, 4, 0, 0});
   CHECK(cells(curRec) == "4|N4|40|x4|J4");
-}
-
-TEST_CASE_FIXTURE(RangeFixture, "silence chooses the same range without composing a sentence") {
-  table(9, 0);
-  CHECK(play({"Shift+Down", "Down", "Shift+Ctrl+Q", "Enter", "Shift"}) == Heard{});
-  CHECK(range() == std::vector{1, 1, 2, 0, 0});
 }

@@ -1,8 +1,5 @@
 // Sessions with table design: a new table, a changed one, a referred one; sentences, and the bytes of the files.
-#include <sys/resource.h>
 #include <sys/stat.h>
-
-#include <csignal>
 
 #include "editor/main/commands.h"
 #include "editor/main/form1.h"
@@ -106,18 +103,6 @@ TEST_CASE_FIXTURE(Designer, "what fails or is refused leaves both files as they 
     widen();
     play({"later 1 key Esc", "key Y"});
     CHECK(play({"show forms"}) == "forms frmSHEET Form1 frmDESIGN");
-  }
-  SUBCASE("disk full") {
-    std::signal(SIGXFSZ, SIG_IGN);
-    widen();
-    rlimit before{}, small{};
-    ::getrlimit(RLIMIT_FSIZE, &before);
-    small = before;
-    small.rlim_cur = 64;
-    ::setrlimit(RLIMIT_FSIZE, &small);
-    const std::string told = play({"key Y"});
-    ::setrlimit(RLIMIT_FSIZE, &before);
-    CHECK(told.find("書き込み時にエラーが出ました。") != std::string::npos);
   }
   SUBCASE("item file that may not be written") {
     ::chmod(path("Kt.txt").c_str(), 0444);

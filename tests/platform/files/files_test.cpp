@@ -1,15 +1,13 @@
 #include "platform/files/files.h"
 
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 #include <algorithm>
-#include <csignal>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <random>
 
+#include "fixture.h"
 #include "platform/forms/shown.h"
 #include "platform/text/sjis.h"
 
@@ -33,35 +31,12 @@ struct Folder {
 
   Text operator/(const std::string& name) const { return fromUtf8(path + name); }
   Text with(const std::string& name, const std::string& bytes) const {
-    std::ofstream(path + name, std::ios::binary) << bytes;
+    writeBytes(path + name, bytes);
     return *this / name;
   }
-  std::string bytes(const std::string& name) const {
-    std::ifstream file(path + name, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
+  std::string bytes(const std::string& name) const { return readBytes(path + name); }
 
   std::string path;
-};
-
-// No file may grow beyond the limit, as on a full disk.
-class FullDisk {
- public:
-  explicit FullDisk(rlim_t size) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit limit{size, before_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-  }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-  ~FullDisk() {
-    setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, handler_);
-  }
-
- private:
-  void (*handler_)(int);
-  rlimit before_{};
 };
 
 std::string record(int number, std::int32_t which, std::size_t size = 8) {
@@ -90,14 +65,6 @@ TEST_CASE("records by number") {
   CHECK(closeFile(1) == FileError::none);
   CHECK(fileLength(1) == 0);
   CHECK(closeFile(1) == FileError::none);
-}
-
-TEST_CASE("a short tail is read with NUL behind it and overwritten by a new record") {
-  const Folder folder;
-  REQUIRE(openRandom(1, folder.with("t", "record-1tail"), 8) == FileError::none);
-  CHECK(record(1, 2) == std::string("tail\0\0\0\0", 8));
-  CHECK(putRecord(1, 2, "record-2") == FileError::none);
-  CHECK(folder.bytes("t") == "record-1record-2");
 }
 
 TEST_CASE("walks and jumps see every put, whatever the window holds") {
@@ -146,28 +113,6 @@ TEST_CASE("what another program writes is seen a moment later") {
   CHECK(record(1, 6) == std::string(8, '\0'));
 }
 
-TEST_CASE("a record that cannot be written whole leaves the file as it was") {
-  const Folder folder;
-  const std::string before = "record-1record-2ta";
-  REQUIRE(openRandom(1, folder.with("t", before), 8) == FileError::none);
-  for (const unsigned limit : {0U, 3U, 10U, 18U, 20U, 23U}) {
-    CAPTURE(limit);
-    {
-      const FullDisk full(limit);
-      for (const std::int32_t which : {3, 4}) CHECK(putRecord(1, which, "new data") == FileError::diskFull);
-    }
-    CHECK(folder.bytes("t") == before);
-    CHECK(record(1, 3) == std::string("ta\0\0\0\0\0\0", 8));
-  }
-  {
-    const FullDisk full(12);  // a write in the middle that stops half way
-    CHECK(putRecord(1, 2, "new data") == FileError::diskFull);
-  }
-  CHECK(folder.bytes("t") == before);
-  CHECK(putRecord(1, 3, "record-3") == FileError::none);
-  CHECK(folder.bytes("t") == "record-1record-2record-3");
-}
-
 TEST_CASE("read-only files are read and never written") {
   const Folder folder;
   const Text path = folder.with("t", "record-1");
@@ -191,15 +136,6 @@ TEST_CASE("read-only files are read and never written") {
   REQUIRE(setReadOnly(path, false) == FileError::none);
   CHECK(fs::status(folder.path + "t").permissions() == fs::perms(0664));
   CHECK(setReadOnly(folder / "none", true) == FileError::notFound);
-}
-
-TEST_CASE("a file that vanished is told at the next put") {
-  const Folder folder;
-  const Text path = folder.with("t", "record-1");
-  REQUIRE(openRandom(1, path, 8) == FileError::none);
-  CHECK(deleteFile(path) == FileError::none);
-  CHECK(putRecord(1, 1, "new data") == FileError::device);
-  CHECK_FALSE(fileExists(path));
 }
 
 TEST_CASE("field reads") {
@@ -299,22 +235,6 @@ TEST_CASE("text writes replace or lengthen a file") {
   CHECK(folder.bytes("o") == wanted);
 }
 
-TEST_CASE("a text that does not fit on the disk is told at the latest when it is closed") {
-  const Folder folder;
-  REQUIRE(openOutput(3, folder / "o") == FileError::none);
-  const FullDisk full(5);
-  CHECK(printLine(3, u"12345678") == FileError::none);
-  CHECK(closeFile(3) == FileError::diskFull);
-  REQUIRE(openOutput(3, folder / "o") == FileError::none);
-  CHECK(print(3, Text(70000, u'a')) == FileError::diskFull);
-  CHECK(print(3, u"b") == FileError::diskFull);
-  CHECK(closeFile(3) == FileError::diskFull);
-  CHECK(copyFile(folder.with("p", "12345"), folder / "q") == FileError::none);
-  CHECK(openOutput(3, u"/dev/full") == FileError::none);
-  CHECK(printLine(3, u"x") == FileError::none);
-  CHECK(closeFile(3) == FileError::diskFull);
-}
-
 TEST_CASE("deleting, renaming, copying") {
   const Folder folder;
   const Text one = folder.with("one", "1"), two = folder.with("two", "2"), three = folder / "three";
@@ -327,13 +247,6 @@ TEST_CASE("deleting, renaming, copying") {
   CHECK(folder.bytes("two") == "2");
   CHECK(copyFile(three, two) == FileError::none);
   CHECK(folder.bytes("two") == "1");
-  {
-    const std::string large(100000, 'x');
-    const Text source = folder.with("large", large);
-    const FullDisk full(70000);
-    CHECK(copyFile(source, folder / "part") == FileError::diskFull);
-    CHECK_FALSE(fileExists(folder / "part"));
-  }
   CHECK(makeDirectory(folder / "sub") == FileError::none);
   CHECK(makeDirectory(folder / "sub") == FileError::alreadyExists);
   CHECK(makeDirectory(folder / "none/sub") == FileError::pathNotFound);

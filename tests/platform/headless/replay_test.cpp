@@ -152,31 +152,21 @@ TEST_CASE("a script is understood whole before anything runs") {
                            "key a",
                            "key Ctrl+",
                            "type",
-                           "commit ",
-                           "menu",
                            "menu a b",
-                           "click box",
                            "click Form1.",
                            "click Form1.Option1(x)",
-                           "wait",
                            "wait -1",
                            "wait 1e3",
-                           "wait 1.",
                            "step x",
                            "clock 2026-02-30 10:00:00",
-                           "clock 2026-01-05",
                            "clock 2026-01-05 24:00:00",
-                           "seed -1",
                            "seed 4294967296",
                            "later 0 key A",
                            "later 2 type x",
                            "printer silent",
                            "port COM4 absent",
                            "port COM1 gone",
-                           "later 2",
                            "show",
-                           "show menu ",
-                           "expect",
                            "type \xFF"}) {
     CAPTURE(line);
     Played played = replay(std::string("key A\n\n") + line + "\nkey B\n");
@@ -199,18 +189,6 @@ TEST_CASE("the virtual clock: timers fire as they fall due, never inside a wait"
         "+ Form1 Sample\nsay tick 10:00:01\nsay tick 10:00:02\nsay tick 10:00:03\n");
   CHECK(replay("step 0\nkey F5\nkey F6\nshow focus").transcript ==
         "+ Form1 Sample\nsay tick 10:00:02\nfocus Form1.box\n");
-  // A wait ends past its time even where single precision can't tell a millisecond from none.
-  for (const char* clock : {"0:00:00", "10:00:00", "18:30:07", "23:59:50"}) {
-    CAPTURE(clock);
-    Fixture f;
-    f.play(std::string("clock 2026-01-05 ") + (clock[1] == ':' ? "0" : "") + clock);
-    for (double seconds : {0.1, 0.2, 1.8, 2.5}) {
-      double before = f.host().dayTimer();
-      f.host().waitSeconds(seconds);
-      CHECK(f.host().dayTimer() - before > seconds);
-      CHECK(f.host().dayTimer() - before < seconds + 0.02);
-    }
-  }
 }
 
 TEST_CASE("midnight, the month and the leap day") {

@@ -3,12 +3,10 @@
 
 #include "platform/files/files.h"
 #include "platform/files/openfiles.h"
-#include "platform/host.h"
 #include "store/rewrite/file_calls.h"
 #include "store/store_fixture.h"
 #include "store/table/mainform.h"
 #include "store/table/readonly.h"
-#include "voice/talk.h"
 
 using namespace zelko;
 using namespace zelko::test;
@@ -70,77 +68,6 @@ TEST_CASE("a file that vanished is told once a move, and does not come back by i
   }
   closeAll();
   CHECK_FALSE(reopenData());
-  CHECK(store.files() == std::vector<std::string>{"Kt.txt"});
-}
-
-TEST_CASE("a full disk refuses the new record whole, and takes it when there is room again") {
-  StoreFixture store;
-  store.table("t.txt", {6}, {"one"});
-  edit(store);
-  for (const std::size_t room : {256UL, 300UL, 511UL}) {
-    CAPTURE(room);
-    FullDisk full(room);
-    CHECK(flushRec());
-    curRec = 2;
-    setRow(currentRow(), "new");
-    forgetToldFailure();
-    CHECK_FALSE(flushRec());
-    CHECK(store.dialogs() == Dialogs{kWriteError});
-    CHECK(store.bytes("t.txt") == record("typed"));
-    CHECK(recCount() == 1);
-    curRec = 1;
-  }
-  curRec = 2;
-  CHECK(flushRec());
-  CHECK(store.bytes("t.txt") == record("typed") + record("new"));
-}
-
-TEST_CASE("a failure is told behind a speech pause, which the dialog adds its own to") {
-  StoreFixture store;
-  talkMode = 2;
-  const float before = host().dayTimer();
-  CHECK_FALSE(store.open("none.txt"));
-  CHECK(host().dayTimer() - before >= static_cast<float>(talkGap) * 1.99F);
-  CHECK(store.dialogs().size() == 1);
-}
-
-TEST_CASE("the read-only toggle asks, stores what was typed, and goes by the file's mode") {
-  StoreFixture store;
-  store.table("t.txt", {6}, {"one"});
-  toggleReadOnly();
-  CHECK(store.beeps() == 1);
-  edit(store);
-  const Dialog set = {u"書き込み禁止のセット",
-                      u"編集中のﾌｧｲﾙを読み取り専用にセットします｡解除しない限り編集できません。"};
-  const Dialog release = {u"書き込み禁止の解除", u"編集中の読み取り専用指定を解除します。"};
-
-  store.answerQuestions(kNo);
-  toggleReadOnly();
-  CHECK(store.dialogs() == Dialogs{set});
-  CHECK_FALSE(tableIsReadOnly());
-  CHECK_FALSE(refusedAsReadOnly());
-
-  store.answerQuestions(kYes);
-  toggleReadOnly();
-  CHECK(store.dialogs() == Dialogs{set});
-  CHECK(tableIsReadOnly());
-  CHECK(readOnlyMarkShown());
-  CHECK(store.bytes("t.txt") == record("typed"));
-  CacheRow row;
-  CHECK(getRec(1, 1, row));
-  setCell(currentRow(), 0, u"more");
-  CHECK_FALSE(flushRec());
-  CHECK(store.dialogs().empty());
-
-  toggleReadOnly();
-  CHECK(store.dialogs() == Dialogs{release});
-  CHECK_FALSE(readOnlyMarkShown());
-  CHECK(flushRec());
-  CHECK(store.bytes("t.txt") == record("more"));
-
-  std::filesystem::remove(store.path("t.txt"));
-  toggleReadOnly();
-  CHECK(store.dialogs().back() == kWriteError);
   CHECK(store.files() == std::vector<std::string>{"Kt.txt"});
 }
 

@@ -53,27 +53,6 @@ TEST_CASE("flushRec stores what the row holds, and nothing blank beyond the coun
   }
 }
 
-TEST_CASE("a tail is no record; a new record takes its place") {
-  StoreFixture store;
-  store.write("t.txt", record("one") + std::string(44, 't'));
-  store.write("Kt.txt", itemFileText({6}));
-  REQUIRE(store.open("t.txt"));
-  CHECK(recCount() == 1);
-  CHECK(cacheRow(1) == slashRec);
-  CacheRow row;
-  CHECK_FALSE(getRec(1, 2, row));
-  CHECK(rowBytes(row) == blankRec);
-  CHECK_FALSE(getRec(1, 0, row));
-  CHECK_FALSE(getRec(3, 1, row));
-  setCell(currentRow(), 0, u"ONE");
-  CHECK(flushRec());
-  CHECK(store.bytes("t.txt") == record("ONE") + std::string(44, 't'));
-  curRec = 2;
-  setRow(currentRow(), "two");
-  CHECK(flushRec());
-  CHECK(store.bytes("t.txt") == record("ONE") + record("two"));
-}
-
 TEST_CASE("a cell is padded or cut by bytes") {
   struct Row {
     Text text, alignment;
@@ -121,21 +100,6 @@ TEST_CASE("behind the last item a record is blank once that item is written") {
   CHECK(rowBytes(currentRow()) == dataOf("A  defleft over"));
   setCell(currentRow(), 1, u"D");
   CHECK(rowBytes(currentRow()) == dataOf("A  D"));
-}
-
-TEST_CASE("a last cell that reaches over the line end") {
-  for (const int sum : {254, 255, 256}) {
-    CAPTURE(sum);
-    StoreFixture store;
-    store.table("t.txt", {250, sum - 250}, {std::string(254, 'a')});
-    REQUIRE(store.open("t.txt"));
-    takeRow(1);
-    CHECK(cellOfCur(1) == left(u"aaaa  ", static_cast<std::size_t>(sum - 250)));
-    setCell(currentRow(), 1, u"123456");
-    CHECK(cellOfRow(currentRow(), 1) == left(u"123456", static_cast<std::size_t>(sum - 250)));
-    CHECK(flushRec());
-    CHECK(store.bytes("t.txt") == std::string(250, 'a') + "1234\r\n");
-  }
 }
 
 TEST_CASE("random edits against a plain second store") {

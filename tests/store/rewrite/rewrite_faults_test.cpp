@@ -106,34 +106,6 @@ TEST_CASE(
   CHECK(swaps >= 4);
 }
 
-TEST_CASE("any call that fails: the old table, the new one, or an offer; and the next rewrite works") {
-  StoreFixture store;
-  for (const Operation& op : kOperations) {
-    const Files after = rewritten(store, op), before = startFiles();
-    for (const int error : {EIO, ENOSPC, EACCES}) {
-      for (int call = 1;; ++call) {
-        restart(store);
-        failAtCall(call, error);
-        const RewriteEnd end = run(op);
-        const int calls = stopCounting();
-        if (calls < call) break;
-        CAPTURE(static_cast<int>(op.what));
-        CAPTURE(call);
-        CAPTURE(error);
-        if (end == RewriteEnd::failed) CHECK((filesOf(store) == before || interruptedSwap(besideTable(u""))));
-        closeAll();
-        (void)store.dialogs();
-        REQUIRE(store.open("t.txt"));
-        const bool offered = !store.dialogs().empty();
-        CHECK((filesOf(store) == after || (!offered && filesOf(store) == before)));
-        CHECK(run({What::insert, 0, 0, 0, 1}) == RewriteEnd::done);
-        const auto files = store.files();
-        CHECK(files == std::vector<std::string>{"Kt.txt", "t.txt"});
-      }
-    }
-  }
-}
-
 TEST_CASE("what stands in the way of a rewrite leaves the table as it was") {
   StoreFixture store;
   for (const char* inTheWay : {"WORK.QQQ", "KWORK.QQQ", "SWAP.QQQ"}) {

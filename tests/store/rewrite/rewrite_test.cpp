@@ -98,23 +98,6 @@ TEST_CASE("three rewrites in a row, in every order, give what a plain store give
   }
 }
 
-TEST_CASE("thirty rewrites at random, ten thousand times") {
-  std::mt19937 random(20240607);
-  for (int sequence = 0; sequence < 10000; ++sequence) {
-    Model model = sampleTable(sequence % 5, 1 + sequence % 4);
-    InMemory store{model.bytes(), model.items};
-    for (int steps = 0; steps < 30;) {
-      const Operation op = anyOperation(random);
-      if (!model.allows(op)) continue;
-      ++steps;
-      model.apply(op);
-      store.apply(op);
-      if (store.bytes == model.bytes() && same(store.items, model.items)) continue;
-      FAIL("sequence " << sequence << " step " << steps);
-    }
-  }
-}
-
 TEST_CASE("the same on disk: data file, item file and description agree after each step, and nothing is left over") {
   StoreFixture store;
   std::mt19937 random(7);
