@@ -1,15 +1,10 @@
-// Any text where a user types one: patterns, ranges, dates, the words of the command line; and any bytes as a CSV file.
-// Each is answered, or refused with words.
-#include <algorithm>
-
+// Any text where a user types one: patterns, dates, the words of the command line. Each is answered, or refused with
+// words.
 #include "app/commandline.h"
-#include "files/csv/csvreader.h"
 #include "fuzz/target.h"
-#include "parts/ranges/rangetext.h"
 #include "platform/fault.h"
 #include "platform/text/daytime.h"
 #include "platform/text/format.h"
-#include "store/table/table.h"
 
 namespace zelko::test {
 namespace {
@@ -34,19 +29,6 @@ void checkPattern(std::string_view bytes) {
   }
 }
 
-void checkRange(std::string_view bytes) {
-  itemCount = 254;
-  for (const int kind : {kRecordRange, kItemRange}) {
-    Text used = fromUtf8(bytes), message;
-    checkRangeText(used, message, kind);
-    if (!message.empty()) continue;
-    const auto blocks = rangeBlocks(fromUtf8(bytes));
-    const std::int64_t count = countOfRange(blocks);
-    const auto numbers = numbersOfRange(fromUtf8(bytes), 1000);
-    require(count >= 0 && (!numbers || numbers->size() <= 1000), "a range that ends");
-  }
-}
-
 void checkDate(std::string_view bytes) {
   const auto date = dateFromText(fromUtf8(bytes));
   if (!date) return;
@@ -68,50 +50,16 @@ void checkCommandLine(std::string_view bytes) {
           "wrong with a complaint, else without");
 }
 
-// However the file comes in pieces: the same fields, and an end.
-std::vector<std::string> fieldsOf(std::string_view bytes, bool protects, std::size_t piece) {
-  std::size_t at = 0;
-  CsvReader reader(
-      [&](char* out, std::size_t size) {
-        const std::size_t count = std::min({size, piece, bytes.size() - at});
-        std::copy_n(bytes.begin() + static_cast<std::ptrdiff_t>(at), count, out);
-        at += count;
-        return count;
-      },
-      protects);
-  std::vector<std::string> fields;
-  CsvLine line;
-  for (std::size_t lines = 0; reader.next(line); ++lines) {
-    require(lines <= bytes.size(), "lines without an end");
-    for (std::size_t i = 0; i < line.fields(); ++i) fields.emplace_back(line.getSVCdata(i));
-    fields.emplace_back("\n");
-  }
-  require(reader.taken() <= static_cast<std::int64_t>(bytes.size()), "more than there is");
-  return fields;
-}
-
-void checkCsv(std::string_view bytes) {
-  for (const bool protects : {false, true})
-    require(fieldsOf(bytes, protects, 1 << 16) == fieldsOf(bytes, protects, 3), "a field that hangs on the blocks");
-  Utf8Judge judge;
-  judge.take(bytes);
-  judge.isUtf8();
-}
-
 const bool added =
     addFuzzTarget({"format",
                    {"0", "#", ".", ",", "%", ";", "E+", "\"", "\\", "@", "&", "<", "!", "yyyy", "gggee", "AM/PM", "c",
                     "General Number", "\xE6\x9D\xB1"},
                    checkFormatPattern}) &&
     addFuzzTarget({"pattern", {"*", "?", "#", "[", "]", "[!", "-", "a", "[]", "\xE6\x9D\xB1"}, checkPattern}) &&
-    addFuzzTarget(
-        {"range", {"-", "/", "0", "1", "254", "2147483647", "99999999999", " ", "\xEF\xBC\x91"}, checkRange}) &&
     addFuzzTarget({"date",
                    {"/", "-", ":", " ", "0", "29", "12", "9999", "\xE6\x98\xAD\xE5\x92\x8C", "H", "\xE5\xB9\xB4", "PM"},
                    checkDate}) &&
-    addFuzzTarget(
-        {"commandline", {"\n", "--", "--replay", "--dir", "-", "=", "\"", "--no-reader"}, checkCommandLine}) &&
-    addFuzzTarget({"csv", {",", "\"", "\"\"", "\r\n", "\r", "\x1A", "\xEF\xBB\xBF", " ", "\x81", "\",\""}, checkCsv});
+    addFuzzTarget({"commandline", {"\n", "--", "--replay", "--dir", "-", "=", "\"", "--no-reader"}, checkCommandLine});
 
 }  // namespace
 }  // namespace zelko::test
