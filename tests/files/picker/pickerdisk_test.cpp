@@ -1,5 +1,4 @@
 // Folders as bad as they come: each meets a sentence, and the picker goes on.
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <ctime>
@@ -32,22 +31,6 @@ TEST_CASE_FIXTURE(FilesFixture, "a folder of 20,000 files") {
         }) < 1.0);
   heard();
   CHECK(play({"key End"}) == "9999.txtﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽ");
-}
-
-TEST_CASE_FIXTURE(FilesFixture, "what never ends is passed over, as a table and as its items") {
-  makeTable(u"m", {{u"ID", 3}}, {{u"1"}});
-  const std::string items = readBytes(path("Km.txt"));
-  for (const char* name : {"a", "b", "y", "z"}) {
-    writeBytes(path(name + std::string(".txt")), "");
-    writeBytes(path("K" + std::string(name) + ".txt"), items);
-  }
-  for (const char* name : {"Ka.txt", "b.txt", "Ky.txt", "z.txt"}) fs::remove(path(name));
-  for (const char* name : {"Ka.txt", "z.txt"}) fs::create_symlink("/dev/zero", path(name));
-  for (const char* name : {"b.txt", "Ky.txt"}) REQUIRE(mkfifo(path(name).c_str(), 0600) == 0);
-  pick(PickFor::table);
-  heard();
-  CHECK(play({"key Down"}) == "m.txtﾌｧｲﾙﾘｽﾄﾎﾞｯｸｽ");
-  CHECK(play({"key Down"}) == "beep");
 }
 
 TEST_CASE_FIXTURE(FilesFixture, "a folder that can't be opened") {
