@@ -39,6 +39,8 @@ void answerFormKeys(KeyEvent& key) {
   } else if (key.is(key::letter('M'), shift::Alt)) {
     cellHooks.talkRange();
     key.swallow();
+  } else if (key.is(key::function(11), shift::Shift)) {
+    host().beep();  // a form that shows a distribution has taken it before
   } else if (key.is(key::Insert, shift::Ctrl)) {
     Text copied;
     if (host().clipboardText(copied)) userClip = copied;

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "parts/reading/linereader.h"
+#include "parts/reading/tablewalk.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
 
@@ -17,6 +18,7 @@ struct Reading {
   Text opening = {};  // said once when the text gets the focus; empty for the window's own sentence
   std::function<void(const Text& text)> save = {};  // "保存"
   std::function<void()> showResults = {};           // "KEKKA表示"
+  CellNames names = {};                             // of its tables
 };
 
 class frmHelp : public Form {
@@ -34,6 +36,8 @@ class frmHelp : public Form {
   // A line at the end of the text while work goes on, without a word; the buttons are disabled meanwhile.
   void addLine(TextView line);
   void setBusy(bool busy);
+  // What the names in its tables stand for, until it takes another text.
+  void setNames(CellNames names) { reading_.names = std::move(names); }
 
  private:
   void narrate();

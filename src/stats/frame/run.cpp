@@ -150,6 +150,12 @@ bool AnalysisRun::finish(Form& form, const Text& closing, bool repeats) {
 void AnalysisRun::showWindow(const Text& opening) {
   if (window_) return showResultWindow(report_.path(), title_, opening, *window_);
   showResultWindow(report_.path(), title_, opening, report_.written());
+  frmHelp* window = loadedForm<frmHelp>();
+  if (!window || !names_) return;
+  const std::size_t shown = window->RichTextBox1.content().size(), before = shown - std::min(shown, report_.written());
+  window->setNames([names = names_, before](TextView name, std::size_t position) {
+    return position < before ? Text() : names(name, position - before);
+  });
 }
 
 void AnalysisRun::refuse() {
