@@ -155,7 +155,8 @@ bool walkTables(TextBox& box, KeyEvent& key, const CellNames& names) {
     host().beep();
     cell = cellAt(text, caret);
   }
-  talkGated(cell ? cellSentence(*cell, names) : lineAt(text, caret));
+  const Text line = trimmed(lineAt(text, caret));
+  talkGated(cell ? cellSentence(*cell, names) : line.empty() ? Text(u"空行") : line);
   return true;
 }
 
