@@ -32,8 +32,8 @@ install_packages() {
   rm -f "$log"
 }
 
-build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev libmecab-dev mecab-ipadic-utf8 kanjidic
-                speech-dispatcher speech-dispatcher-espeak-ng espeak-ng fonts-ipafont)
+build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev libmecab-dev mecab-ipadic-utf8 kanjidic edict
+                unicode-data python3 speech-dispatcher speech-dispatcher-espeak-ng espeak-ng fonts-ipafont)
 test_packages=(doctest-dev clang-format)
 
 # configure_and_build FOLDER CMAKE-OPTIONS... -- TARGETS...

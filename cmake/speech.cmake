@@ -1,3 +1,24 @@
+# Descriptions of characters: made from the dictionaries of the system, needed by the editor too.
+find_package(Python3 REQUIRED COMPONENTS Interpreter)
+set(DICTIONARIES /usr/share/edict/edict /usr/share/edict/kanjidic /usr/share/unicode/Unihan_Readings.txt.bz2)
+foreach(DICTIONARY ${DICTIONARIES})
+  if(NOT EXISTS ${DICTIONARY})
+    message(FATAL_ERROR "${DICTIONARY} is missing: install the packages edict, kanjidic and unicode-data")
+  endif()
+endforeach()
+set(DESCRIPTIONS_FOLDER ${CMAKE_BINARY_DIR}/descriptions)
+file(MAKE_DIRECTORY ${DESCRIPTIONS_FOLDER})
+add_custom_command(OUTPUT ${DESCRIPTIONS_FOLDER}/descriptions.inc
+  COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tools/make_descriptions.py
+          --output ${DESCRIPTIONS_FOLDER}/descriptions.inc
+  DEPENDS tools/make_descriptions.py tools/radicals.txt tools/variants.txt tools/misread_words.txt ${DICTIONARIES}
+  VERBATIM)
+set(DESCRIPTIONS src/speech/descriptions.cpp src/speech/signnames.cpp src/speech/signs.cpp src/speech/plain.cpp
+                 src/speech/latin.cpp)
+target_sources(zelko_core PRIVATE ${DESCRIPTIONS} ${DESCRIPTIONS_FOLDER}/descriptions.inc)
+set_source_files_properties(src/speech/descriptions.cpp PROPERTIES INCLUDE_DIRECTORIES ${DESCRIPTIONS_FOLDER}
+                            OBJECT_DEPENDS ${DESCRIPTIONS_FOLDER}/descriptions.inc)
+
 # The reader: speaks sentences through the speech service of the desktop.
 if(ZELKO_SPEECH)
   find_library(MECAB_LIBRARY mecab REQUIRED)
@@ -5,7 +26,7 @@ if(ZELKO_SPEECH)
   find_package(Threads REQUIRED)
 
   file(GLOB SPEECH CONFIGURE_DEPENDS src/speech/*.cpp)
-  list(FILTER SPEECH EXCLUDE REGEX "/(main|clipboard_watch)\\.cpp$")
+  list(FILTER SPEECH EXCLUDE REGEX "/(main|clipboard_watch|descriptions|signnames|signs|plain|latin)\\.cpp$")
   add_library(zelko_speech STATIC ${SPEECH})
   target_include_directories(zelko_speech PRIVATE ${MECAB_INCLUDE})
   target_link_libraries(zelko_speech PUBLIC zelko_core Threads::Threads PRIVATE ${MECAB_LIBRARY})

@@ -7,9 +7,12 @@
 #include "files/picker/picker.h"
 #include "files/start/help.h"
 #include "files/start/startscreen.h"
+#include "speech/descriptions.h"
 #include "stats/calculators/calculatorform.h"
 #include "stats/cluster/registercluster.h"
 #include "stats/correlation/registercorrelation.h"
+#include "stats/crosstable/registercrosstable.h"
+#include "stats/distribution/registerdistribution.h"
 #include "stats/factor/factorrun.h"
 #include "stats/frame/registerframe.h"
 #include "stats/frequency/registerfrequency.h"
@@ -20,6 +23,7 @@
 #include "tablejobs/replace/registerreplace.h"
 #include "tablejobs/search/search.h"
 #include "tablejobs/sort/sortcommands.h"
+#include "voice/describe.h"
 #include "voice/dialogs.h"
 #include "voice/narration.h"
 
@@ -44,10 +48,15 @@ void wireProgram() {
   registerTForm();
   registerUForm();
   registerFrequency();
+  registerDistribution();
   registerCorrelation();
+  registerCrossTable();
   registerFactor();
   registerCluster();
   narrateMenus();
+  characterHooks.description = characterDescription;
+  characterHooks.code = characterCode;
+  characterHooks.isKanji = isDescribedKanji;
 }
 
 void startProgram(TextView table) { startFromLunch(table); }

@@ -39,7 +39,7 @@ class Spoken {
   void blank() {
     if (!text_.empty() && text_.back() != u' ' && !isPauseOrStop(text_.back())) text_ += u' ';
   }
-  bool atSentenceStart() const { return text_.empty() || text_.back() == u'。' || text_.back() == u'？'; }
+  bool atStart() const { return text_.empty() || isPauseOrStop(text_.back()); }
   bool endsWord() const { return !text_.empty() && text_.back() != u' ' && !isPauseOrStop(text_.back()); }
   bool anythingToHear() const {
     return std::any_of(text_.begin(), text_.end(), [](char16_t unit) { return unit != u' ' && !isPauseOrStop(unit); });
@@ -126,8 +126,8 @@ class Reading {
     if (!allOf(word, Kind::japanese)) return sayUnits(word.begin, word.begin + word.length);
     if (word.begin > 0 && kindAt(word.begin - 1) == Kind::number && isNumberOfWord(word)) spoken_.append(u"、");
     const TextView surface = TextView(surface_).substr(word.begin, word.length);
-    if (word.particle && (surface == u"は" || surface == u"へ") && spoken_.atSentenceStart())
-      return spoken_.append(surface == u"は" ? u"ハ" : u"ヘ");  // no particle begins a sentence: the kana itself
+    if (word.particle && (surface == u"は" || surface == u"へ") && spoken_.atStart())
+      return spoken_.append(surface == u"は" ? u"ハ" : u"ヘ");  // no particle stands in front: the kana itself
     if (surface == u"値") return spoken_.append(endsCompound(word.begin) ? u"チ" : u"アタイ");
     if (const char16_t* own = ownReading(surface, word.pronunciation)) return spoken_.append(own);
     if (!isAllKatakana(word.pronunciation)) return sayUnits(word.begin, word.begin + word.length);

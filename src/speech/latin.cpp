@@ -182,11 +182,13 @@ Text syllables(TextView rest) {
 
 Text letterByLetter(TextView word) {
   Text kana;
-  for (char16_t unit : word) kana += kLetters[unit - u'a'];
+  for (char16_t unit : word) kana += letterName(unit);
   return kana;
 }
 
 }  // namespace
+
+TextView letterName(char16_t letter) { return kLetters[letter >= u'a' ? letter - u'a' : letter - u'A']; }
 
 Text latinKana(TextView word) {
   const Text small = lower(word);

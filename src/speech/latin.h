@@ -9,4 +9,7 @@ namespace zelko {
 // names in Roman spelling by their syllables, everything else letter by letter.
 Text latinKana(TextView word);
 
+// The name of a half-width letter, of either case.
+TextView letterName(char16_t letter);
+
 }  // namespace zelko

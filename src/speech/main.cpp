@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "platform/text/text.h"
+#include "speech/descriptions.h"
 #include "speech/dictionary.h"
 #include "speech/kana.h"
 #include "speech/reader.h"
@@ -28,6 +29,7 @@ constexpr std::chrono::seconds kLastSentence{5};
 
 constexpr const char* kHelp =
     R"(usage: zelko-reader [--print] [--clipboard | --stdin] [--plain]
+       zelko-reader --describe TEXT
 
 Reads each new text of the clipboard aloud in Japanese, through the speech service of the desktop. A new text
 replaces the one being said. "＜速さ０＞" to "＜速さ９＞" in a text set the speed and are not spoken.
@@ -39,6 +41,7 @@ replaces the one being said. "＜速さ０＞" to "＜速さ９＞" in a text se
   --clipboard  take the texts from the clipboard
   --stdin      take them from standard input, one a line
   --plain      take every line as it stands
+  --describe   print for each character of TEXT what it is, and its codes: "学  学校のガク、まなぶ  シフトJIS ..."
   --help       print this
 
 Without --clipboard or --stdin the clipboard is taken where there is a display, and standard input otherwise; with
@@ -149,6 +152,17 @@ int run(const Options& options, char** argv) {
   return kNoSource;
 }
 
+int describe(TextView text) {
+  for (std::size_t at = 0; at < text.size();) {
+    const bool pair = (text[at] & 0xFC00) == 0xD800 && at + 1 < text.size();
+    const TextView character = text.substr(at, pair ? 2 : 1);
+    std::cout << toUtf8(character) << '\t' << toUtf8(characterDescription(character)) << '\t'
+              << toUtf8(characterCode(character)) << '\n';
+    at += character.size();
+  }
+  return 0;
+}
+
 int wrongUse(std::string_view what) {
   std::cerr << "zelko-reader: " << what << "\nTry zelko-reader --help.\n";
   return kWrongUse;
@@ -161,6 +175,8 @@ int main(int argc, char** argv) {
   for (int i = 1; i < argc; ++i) {
     const std::string_view option = argv[i];
     if (option == "--help") return std::cout << kHelp, 0;
+    if (option == "--describe")
+      return i + 1 < argc ? describe(fromUtf8(argv[i + 1])) : wrongUse("--describe needs a text");
     if (option == "--print")
       options.print = true;
     else if (option == "--clipboard")

@@ -204,6 +204,9 @@ SpokenNumber unsignedAt(TextView text, std::size_t at) {
   return plainAt(text, at);
 }
 
+// Behind a single kanji of a number the dictionary knows words (一番, 一部, 十分); of these counters it knows too few.
+constexpr TextView kCountsAfterOne = u"個回冊匹杯枚台件歳階週秒桁列頭軒画";
+
 std::size_t kanjiDigit(char16_t unit) { return TextView(u"〇一二三四五六七八九").find(unit); }
 
 // The value of a well-formed number in kanji below 10 to the 12th, 0 for anything else.
@@ -286,10 +289,15 @@ SpokenNumber readNumber(TextView text, std::size_t at) {
 SpokenNumber readKanjiNumber(TextView text, std::size_t at) {
   std::size_t end = at;
   while (end < text.size() && TextView(u"〇一二三四五六七八九十百千万億").find(text[end]) != TextView::npos) ++end;
-  if (end < at + 2 || !counterAt(text, end)) return {};
+  const bool lone = end == at + 1;
+  const bool countsThings = lone && end < text.size() && kCountsAfterOne.find(text[end]) != TextView::npos;
+  if (end == at || (lone && !countsThings) || !counterAt(text, end)) return {};
   const TextView number = text.substr(at, end - at);
   std::string digits;
-  if (number.find_first_of(u"十百千万億") == TextView::npos) {
+  if (lone && number != u"十") {
+    digits = static_cast<char>('0' + kanjiDigit(number[0]));
+    if (kanjiDigit(number[0]) == TextView::npos || number == u"〇") return {};
+  } else if (number.find_first_of(u"十百千万億") == TextView::npos) {
     if (number.size() != 4 || text[end] != u'年') return {};
     for (char16_t unit : number) digits += static_cast<char>('0' + kanjiDigit(unit));
   } else {

@@ -39,6 +39,8 @@ void answerFormKeys(KeyEvent& key) {
   } else if (key.is(key::letter('M'), shift::Alt)) {
     cellHooks.talkRange();
     key.swallow();
+  } else if (key.is(key::function(11), shift::Shift)) {
+    host().beep();  // a form that shows a distribution has taken it before
   } else if (key.is(key::Insert, shift::Ctrl)) {
     Text copied;
     if (host().clipboardText(copied)) userClip = copied;
@@ -118,7 +120,11 @@ Narration& Narration::box(TextBox& textBox, TextView description, bool waits) {
 }
 
 Narration& Narration::check(CheckBox& box, TextView description) {
-  appendHandler(box.onClick, [&box] { talkState(box); });
+  // The new state is news, also right behind the sentence of a box that a click has given the focus.
+  appendHandler(box.onClick, [&box] {
+    nextIsHeard();
+    talkState(box);
+  });
   return say(box, description);
 }
 

@@ -8,6 +8,7 @@
 #include "platform/forms/form.h"
 #include "platform/host.h"
 #include "voice/agent.h"
+#include "voice/describe.h"
 
 namespace zelko {
 
@@ -158,6 +159,7 @@ void resetTalk() {
   userClip.clear();
   appDir = currentFolder();
   composedSentences = 0;
+  describesWalk = false;
 }
 
 }  // namespace zelko

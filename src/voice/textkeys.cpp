@@ -4,6 +4,7 @@
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
 #include "platform/text/number.h"
+#include "voice/describe.h"
 #include "voice/names.h"
 #include "voice/narration.h"
 #include "voice/talk.h"
@@ -80,6 +81,7 @@ void talkTextKey(int code, int mask, [[maybe_unused]] int third, TextView descri
   if (!box) return;
   if (box->selLength() == 0) selPrev = 0;
   const KeyEvent key{code, mask};
+  if (answersDescription(*box, key, {})) return;
   if (isSidewards(code) && mask == shift::Shift && !box->content().empty()) {
     talkSelection(*box, code);
   } else if (isRepeatKey(key)) {
@@ -96,7 +98,9 @@ void talkTextKey(int code, int mask, [[maybe_unused]] int third, TextView descri
 void talkCaretChar() {
   const TextBox* box = activeBox();
   if (!box || talkMode == 0) return;
-  sayNow(charName(mid(box->content(), static_cast<std::size_t>(box->selStart()) + 1, 1)));
+  const Text character = mid(box->content(), static_cast<std::size_t>(box->selStart()) + 1, 1);
+  sayNow(charName(character));
+  describeAfterWait(character);
 }
 
 void talkCaret() {

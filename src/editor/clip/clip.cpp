@@ -279,7 +279,7 @@ void clipToClipboard() {
   for (std::int32_t record = 0; record < clip.records(); ++record, line.clear()) {
     for (std::int32_t item = 0; item < clip.items(); ++item, line += cell)
       if (!clip.next(cell)) return tellBrokenClip();
-    if (text.size() + line.size() <= kLongestHandedOver) text += trimmedRight(line) + kLineEnd;
+    text += trimmedRight(line) + kLineEnd;
     if (!progress.step(record + 1)) return talkBehindDialog(u"中止しました");
   }
   handToUser(text);

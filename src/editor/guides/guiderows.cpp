@@ -34,8 +34,13 @@ constexpr GuideRow kAltRows[] = {
     {u"Command25", u"ｱﾙﾄﾌﾟﾗｽｳｴﾔｼﾞﾙｼ", u"↑", u"記録範囲指定開始"},
     {u"Command26", u"ｱﾙﾄﾌﾟﾗｽ", u"N", u"現在ｾﾙﾃｷｽﾄ読み上げ"},
     {u"Command27", u"ｱﾙﾄﾌﾟﾗｽ", u"M", u"現在行ﾃｷｽﾄ読み上げ"},
+    {u"Command31", u"ｱﾙﾄﾌﾟﾗｽ", u"矢印", u"結果表示の窓で､表をｾﾙごとに読み上げ"},
     {u"Command28", u"ｼﾌﾄﾌﾟﾗｽｺﾝﾄﾛｰﾙ", u"N", u"同じ条件で前を検索"},
     {u"Command29", u"ｼﾌﾄﾌﾟﾗｽｺﾝﾄﾛｰﾙ", u"H", u"検索件数と何件目か"},
+    {u"Command30", u"ｼﾌﾄﾌﾟﾗｽｺﾝﾄﾛｰﾙ", u"K",
+     u"ｷｬﾚｯﾄ位置の文字の詳細読み､続けてもう一度叩くと文字ｺｰﾄﾞと画数｡全ﾃｷｽﾄﾎﾞｯｸｽでｻﾎﾟｰﾄ｡移動だけで漢字を読ませるには､読"
+     u"み上げﾒﾆｭｰで"
+     u"ﾁｪｯｸ"},
 };
 
 constexpr GuideRow kCtrlRows[] = {
@@ -99,6 +104,7 @@ constexpr GuideRow kShiftFunctionRows[] = {
     {u"Command10", u"ｺﾝﾄﾛｰﾙﾌﾟﾗｽ", u"f11", u"詳細読み上げ"},
     {u"Command13", u"ｺﾝﾄﾛｰﾙﾌﾟﾗｽ", u"f12", u"読み上げon/off"},
     {u"Command14", u"ｼﾌﾄﾌﾟﾗｽ", u"f12", u"読み上げ速度調整"},
+    {u"Command15", u"ｼﾌﾄﾌﾟﾗｽ", u"f11", u"度数分布の形の読み上げ､続けて押すと音"},
 };
 
 constexpr GuideType kAlt = {

@@ -14,6 +14,7 @@
 #include "platform/files/files.h"
 #include "platform/host.h"
 #include "store/table/mainform.h"
+#include "voice/describe.h"
 #include "voice/heard.h"
 #include "voice/narration.h"
 #include "voice/talk.h"
@@ -90,6 +91,10 @@ void Form1::wireButtons() {
 void Form1::wireForm() {
   onKeyDown = [this](KeyEvent& event) { Form_KeyDown(event); };
   onUnload = [this] { Form_Unload(); };
+  Timer1.onTimer = [this] {
+    Timer1.setInterval(0);
+    onCharacterWait();
+  };
   onClose = leaveProgram;
 }
 

@@ -39,6 +39,7 @@ class Form1 : public Form {
   Button Command3{*this, u"Command3", u"項目参照(&L)"};
   Button Command4{*this, u"Command4", u"常表示項目(&A)"};
   Button Command5{*this, u"Command5", u"字数制限(&B)"};
+  Timer Timer1{*this, u"Timer1"};  // the walk by characters stands on a kanji
 
   // 1: the next return to the input box says the item number only.
   std::int16_t itemOnlyReturn = 0;

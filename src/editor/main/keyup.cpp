@@ -10,6 +10,7 @@
 #include "store/records/records.h"
 #include "store/table/cursor.h"
 #include "store/table/itemfile.h"
+#include "voice/describe.h"
 #include "voice/names.h"
 #include "voice/talk.h"
 
@@ -108,7 +109,7 @@ bool caretKey(const KeyEvent& key) {
 void inputKeyUp(KeyEvent& key) {
   if (main().txtinputbox.selLength() == 0) selPrev = 0;
   if (key.is(key::Space, shift::None) || key.is(key::End, shift::None)) clearLimitBlank();
-  if (caretKey(key)) return;
+  if (answersDescription(main().txtinputbox, key, currentCell()) || caretKey(key)) return;
   const auto question = std::find_if(std::begin(kQuestions), std::end(kQuestions),
                                      [&](const Question& q) { return key.is(q.code, q.mask); });
   if (question != std::end(kQuestions) && gateOpens()) talkNow(question->sentence());

@@ -137,6 +137,7 @@ constexpr MenuRow kRows[] = {
     {1, u"mnuVC", u"現在セル音声案内(&G)", key::function(2), shift::Ctrl},
     {1, u"mnuAGENT", u"MSAgentの使用"},
     {1, u"mnuINH", u"読み上げ禁止時間(&T)"},
+    {1, u"mnuKANJI", u"文字の移動で漢字を詳細読み(&K)"},
     {0, u"mnuKEY", u"ｷｰ操作一覧等(&L)"},
     {1, u"mnuALT", u"音声案内ｷ-ｶﾞｲﾄﾞ､shift+ctrl?､alt+?"},
     {1, u"mnuCTRL", u"ctrlまたはshift+？"},

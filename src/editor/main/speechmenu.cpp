@@ -11,6 +11,7 @@
 #include "platform/text/number.h"
 #include "store/table/cursor.h"
 #include "voice/agent.h"
+#include "voice/describe.h"
 #include "voice/dialogs.h"
 #include "voice/talk.h"
 
@@ -18,6 +19,7 @@ namespace zelko {
 
 namespace {
 
+constexpr int kWalkWait = 1500;  // milliseconds
 constexpr double kShortestGap = 0.1, kLongestGap = 1;
 
 int speedStep = 0;
@@ -69,6 +71,21 @@ void readSpItemToo() {
             menu.find(u"mnuJY")->captionWithoutMarks());
 }
 
+void describeWalkToo() {
+  describesWalk = !describesWalk;
+  Menu& menu = mainForm().menu();
+  menu.setChecked(u"mnuKANJI", describesWalk);
+  talkGated(Text(describesWalk ? u"チェック" : u"ノーチェック") + markPause +
+            menu.find(u"mnuKANJI")->captionWithoutMarks());
+}
+
+// A host begins a wait anew only where its length is another one.
+void waitForWalk(bool begins) {
+  static int length = kWalkWait;
+  length = length == kWalkWait ? kWalkWait + 1 : kWalkWait;
+  mainForm().Timer1.setInterval(begins ? length : 0);
+}
+
 }  // namespace
 
 void speakDataOnly() { setLevel(1, u"データのみ読み上げ"); }
@@ -118,6 +135,8 @@ void registerSpeechMenu() {
   registerCommand(u"mnuVC", [] { talkB(stateReport(inputText())); });
   registerCommand(u"mnuAGENT", agentMenu);
   registerCommand(u"mnuINH", askInhibitTime);
+  registerCommand(u"mnuKANJI", describeWalkToo);
+  characterHooks.wait = waitForWalk;
 }
 
 }  // namespace zelko

@@ -129,6 +129,11 @@ void CellEditor::refuse(const CellFault& fault) {
 
 // --- Ways from cell to cell ----------------------------------------------------------------------------------
 
+void CellEditor::setColumns(int lastCol, std::vector<int> passed) {
+  rules_.lastCol = lastCol;
+  rules_.passed = std::move(passed);
+}
+
 bool CellEditor::isPassed(int col) const { return std::ranges::find(rules_.passed, col) != rules_.passed.end(); }
 
 void CellEditor::next() {

@@ -70,6 +70,8 @@ class CellEditor {
   int col() const { return col_; }
   int lastRow() const { return grid_.rows() - 1; }
   bool overwrites() const { return overwrite_; }
+  // For a grid whose columns come and go; within reshape.
+  void setColumns(int lastCol, std::vector<int> passed);
 
   // Goes to a cell; what stands in the box is not stored. Said where the box has the focus.
   void enter(int row, int col);

@@ -16,6 +16,8 @@ constexpr TextView kHowToReport =
     u"が表示されています。矢印ｷｰで、一行ずつ読まれます。ｼﾌﾄ矢印ｷｰで範囲部が読まれます。"
     u"ﾀﾌﾞｷｰで、印刷、保存、KEKKA表示のボタンに移動します。escで終了します。";
 
+constexpr const char16_t* kHowToWalk = u"Altと矢印ｷｰで、表を一ますずつ、行と列の名前と共に読みます。";
+
 }  // namespace
 
 frmHelp::frmHelp() : Form(kName, u"ﾍﾙﾌﾟ") {
@@ -26,7 +28,14 @@ frmHelp::frmHelp() : Form(kName, u"ﾍﾙﾌﾟ") {
   Command2.onClick = [this] { reading_.save ? reading_.save(RichTextBox1.content()) : host().beep(); };
   Command3.onClick = [this] { reading_.showResults ? reading_.showResults() : host().beep(); };
   Command4.onClick = [this] { screen().unload(*this); };
-  RichTextBox1.onKeyDown = [this](KeyEvent&) { reader_.keyDown(); };
+  RichTextBox1.onKeyDown = [this](KeyEvent& key) {
+    if (!walkTables(RichTextBox1, key, reading_.names)) reader_.keyDown();
+  };
+  onKeyDown = [this](KeyEvent& key) {
+    if (result_.empty() || !key.is(key::PageDown, shift::Ctrl)) return;
+    key.swallow();
+    talkGated(result_);
+  };
   narrate();
   // While work goes on its questions come and go in front of this window: it is seen, and says nothing.
   RichTextBox1.onGotFocus = [this, spoken = RichTextBox1.onGotFocus] {
@@ -38,7 +47,7 @@ frmHelp::frmHelp() : Form(kName, u"ﾍﾙﾌﾟ") {
 
 void frmHelp::narrate() {
   Narration voice(*this);
-  voice.explain([this] { return Text(reading_.report ? kHowToReport : kHowToHelp); });
+  voice.explain([this] { return reading_.report ? Text(kHowToReport) + kHowToWalk : Text(kHowToHelp); });
   voice.say(RichTextBox1, [this] { return focusSentence(); });
   for (Button* button : {&Command1, &Command2, &Command3, &Command4}) voice.say(*button, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ");
 }

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "parts/reading/linereader.h"
+#include "parts/reading/tablewalk.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
 
@@ -17,6 +18,7 @@ struct Reading {
   Text opening = {};  // said once when the text gets the focus; empty for the window's own sentence
   std::function<void(const Text& text)> save = {};  // "保存"
   std::function<void()> showResults = {};           // "KEKKA表示"
+  CellNames names = {};                             // of its tables
 };
 
 class frmHelp : public Form {
@@ -31,9 +33,13 @@ class frmHelp : public Form {
   Button Command4{*this, u"Command4", u"終了(esc)"};
 
   void take(const Reading& reading);
+  // Said with Ctrl+PageDown as often as it is asked for; empty for none.
+  void setResult(TextView sentence) { result_ = sentence; }
   // A line at the end of the text while work goes on, without a word; the buttons are disabled meanwhile.
   void addLine(TextView line);
   void setBusy(bool busy);
+  // What the names in its tables stand for, until it takes another text.
+  void setNames(CellNames names) { reading_.names = std::move(names); }
 
  private:
   void narrate();
@@ -43,6 +49,7 @@ class frmHelp : public Form {
 
   LineReader reader_{RichTextBox1, {}};
   Reading reading_;
+  Text result_;
   bool busy_ = false;
 };
 

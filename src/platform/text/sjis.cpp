@@ -179,6 +179,16 @@ std::string toSjis(TextView text) {
   return std::string(begin, encodeInto(text, begin));
 }
 
+Text asStored(TextView typed) {
+  Text out;
+  for (std::size_t at = 0; at < typed.size(); ++at) {
+    const TextView unit = typed.substr(at, 1);
+    const std::string bytes = toSjis(unit);
+    out += bytes == "?" ? Text(unit) : fromSjis(bytes);
+  }
+  return out;
+}
+
 std::size_t sjisLength(TextView text) {
   const Tables& table = tables();
   std::size_t length = text.size();

@@ -23,6 +23,8 @@ std::vector<std::size_t> characterStarts(std::string_view bytes);
 // U+2212, U+2014, U+00A2, U+00A3, U+00A5, U+00AC and U+203E go to the code of their twin.
 std::string toSjis(TextView text);
 
+// The text as a file would give it back: of two characters with one code the usual one; what has no code stays.
+Text asStored(TextView typed);
 // What `toSjis(text).size()` would give, without making it: the width of a text in bytes.
 std::size_t sjisLength(TextView text);
 

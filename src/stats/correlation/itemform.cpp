@@ -1,5 +1,8 @@
 #include "stats/correlation/itemform.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "platform/host.h"
 #include "stats/frame/analysis.h"
 #include "stats/frame/outputfolder.h"
@@ -58,6 +61,13 @@ bool frmRP::hasSecondGroup() const {
   return job_.secondGroup == ItemFormJob::SecondGroup::always;
 }
 
+ItemList frmRP::chosenItems() const {
+  ItemList all = items_.marked(1);
+  if (hasSecondGroup()) std::ranges::copy(items_.marked(2), std::back_inserter(all));
+  std::ranges::sort(all);
+  return all;
+}
+
 bool frmRP::mayMarkSecond() {
   if (hasSecondGroup()) return true;
   host().beep();
@@ -84,8 +94,11 @@ void frmRP::frmRP_Command2_Click() {
 }
 
 void openItemForm(const ItemFormJob& job) {
-  unload<frmRP>();
-  form<frmRP>().take(job);
+  const frmRP* there = loadedForm<frmRP>();
+  if (const bool isKept = takeKeptForm(frmRP::kName); !isKept || !there || there->word() != job.word) {
+    unload<frmRP>();
+    form<frmRP>().take(job);
+  }
   analysisMode = job.word;
   form<frmRP>().showModal();
   analysisMode.clear();

@@ -9,6 +9,7 @@
 #include "parts/grid/itemchoice.h"
 #include "platform/forms/controls.h"
 #include "platform/forms/form.h"
+#include "stats/frame/datacheck.h"
 
 namespace zelko {
 
@@ -44,13 +45,16 @@ class frmRP : public Form {
   Button Command1{*this, u"Command1", u"実行"};
   Button Command2{*this, u"Command2", u"ｷｬﾝｾﾙ"};
   Button Command3{*this, u"Command3", u"出力ﾌｫﾙﾀﾞ指定"};
+  DataCheckButton CommandCheck{*this, RangeTest::wholeRecords, [this] { return chosenItems(); }};
 
   void take(const ItemFormJob& job);
+  const Text& word() const { return job_.word; }
 
  private:
   void wire();
   void narrate();
   bool hasSecondGroup() const;
+  ItemList chosenItems() const;  // of both groups
   bool mayMarkSecond();
   void frmRP_Command1_Click();
   void frmRP_Command2_Click();
@@ -59,7 +63,7 @@ class frmRP : public Form {
   ItemChoice items_{Grid1, 2};
 };
 
-// Opens the form, modal, with no item marked.
+// Opens the form, modal, with no item marked, or as it was when its check of the data led to a cell.
 void openItemForm(const ItemFormJob& job);
 
 }  // namespace zelko

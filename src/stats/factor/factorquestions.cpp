@@ -30,8 +30,8 @@ std::optional<bool> yesOrNo(TextView question, TextView title) {
 }
 
 // The largest ones: the others say nothing about the number of factors.
-Text heard(std::span<const double> eigenvalues) {
-  Text text = u"固有値";
+Text heard(TextView name, std::span<const double> eigenvalues) {
+  Text text(name);
   for (std::size_t k = 0; k < std::min(eigenvalues.size(), kHeardEigenvalues); ++k)
     text += u"､" + format(eigenvalues[k], u"0.00");
   return text;
@@ -61,12 +61,12 @@ std::optional<std::vector<double>> askCommunalities(const std::vector<std::int16
   return h;
 }
 
-std::optional<std::int32_t> askFactors(std::span<const double> eigenvalues) {
+std::optional<std::int32_t> askFactors(std::span<const double> full, std::span<const double> reduced, TextView label) {
   return askWhole({.prompt = joined({u"上記相関マトリクスの固有値を参考に、因子数を指定して下さい。", u"因子数は？",
-                                     heard(eigenvalues)}),
+                                     heard(u"固有値、対角1.0", full), heard(u"対角" + Text(label), reduced)}),
                    .title = u"因子数の決定",
                    .preset = u"3"},
-                  1, static_cast<std::int32_t>(eigenvalues.size()));
+                  1, static_cast<std::int32_t>(full.size()));
 }
 
 std::optional<LoadingMethod> askLoadingMethod() {

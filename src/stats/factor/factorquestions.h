@@ -15,8 +15,9 @@ std::optional<CommunalityKind> askCommunalityKind();
 // A value from 0 to 1 for each variable, which is asked by number and name.
 std::optional<std::vector<double>> askCommunalities(const std::vector<std::int16_t>& items);
 
-// 1 to the number of eigenvalues; they are heard in front of the question.
-std::optional<std::int32_t> askFactors(std::span<const double> eigenvalues);
+// 1 to the number of eigenvalues, which are heard with the question: those with a diagonal of 1, and with communalities
+// in it, named by `label`. A factor with a negative one of these has no loadings.
+std::optional<std::int32_t> askFactors(std::span<const double> full, std::span<const double> reduced, TextView label);
 
 struct LoadingMethod {
   bool iterated = false;

@@ -48,6 +48,7 @@ void runFactor(frmRP& form, const ItemList& items, const ItemList&) {
   if (const Text fault = faultOf(read, basics, items); !fault.empty()) return refuse(run, fault);
   FactorSolution solution(run, read.data, basics, items);
   if (!solution.solve()) return run.stop();
+  run.nameCells(solution.cellNames());
   run.finish(form, Text(kFinished) + solution.spokenFigures(), true);
 }
 

@@ -49,9 +49,10 @@ bool FactorSolution::chooseCommunalities() {
 bool FactorSolution::chooseFactors() {
   const std::vector<double> ones(items_.size(), 1.0);
   const std::vector<double> full = numbers::eigenvaluesWith(basics_.correlation, ones);
+  const std::vector<double> reduced = numbers::eigenvaluesWith(basics_.correlation, communalities_);
   run_.lines(eigenvalueTable(full, u"1.0"));
-  run_.lines(eigenvalueTable(numbers::eigenvaluesWith(basics_.correlation, communalities_), label_));
-  const auto factors = askFactors(full);
+  run_.lines(eigenvalueTable(reduced, label_));
+  const auto factors = askFactors(full, reduced, label_);
   if (!factors) return false;
   factors_ = *factors;
   run_.tell(u"因子数は" + decimal(factors_));
@@ -123,6 +124,7 @@ bool FactorSolution::scores() {
   const auto wanted = askScores();
   if (!wanted) return false;
   if (!*wanted) return true;
+  scoresFrom_ = run_.report().written();
   run_.lines({u" <<<  Estimation of factor scores  >>>", {}});
   const numbers::Matrix weights = numbers::scoreWeights(basics_.correlation, loadings_);
   run_.lines(scoreTable(numbers::factorScores(data_, basics_, weights)));
@@ -147,6 +149,19 @@ Text FactorSolution::spokenFigures() const {
             figure(loadings_(highest, k), 0, 2).substr(1);
   }
   return said;
+}
+
+CellNames FactorSolution::cellNames() const {
+  std::vector<Text> names;
+  for (const std::int16_t item : items_) names.push_back(trimmed(itemName[static_cast<std::size_t>(item)]));
+  const std::size_t loadingsEnd = scoresFrom_ > 0 ? scoresFrom_ : Text::npos;
+  return [names, loadingsEnd](TextView name, std::size_t position) -> Text {
+    const bool isVariable = name.starts_with(u"X(");
+    if (!isVariable && (name.size() != 4 || position >= loadingsEnd)) return {};
+    const double number = val(isVariable ? name.substr(2) : name);
+    return number >= 1 && number <= static_cast<double>(names.size()) ? names[static_cast<std::size_t>(number) - 1]
+                                                                      : Text();
+  };
 }
 
 }  // namespace zelko

@@ -24,6 +24,8 @@ class FactorSolution {
   bool solve();
   // The number of factors, and of each what it explains and the item that it loads most.
   Text spokenFigures() const;
+  // The items behind "X(01)" and the numbers of the loadings.
+  CellNames cellNames() const;
 
  private:
   bool chooseCommunalities();
@@ -38,7 +40,8 @@ class FactorSolution {
   const numbers::Covariance& basics_;
   const std::vector<std::int16_t>& items_;
   std::vector<double> communalities_;
-  Text label_;  // what stands in the diagonal
+  std::size_t scoresFrom_ = 0;  // of the report: the numbers of its rows are cases from there on
+  Text label_;                  // what stands in the diagonal
   int factors_ = 0;
   bool settled_ = true;  // the iteration ended by its bound
   numbers::Matrix loadings_;

@@ -5,6 +5,7 @@
 #include "parts/disk/ownnames.h"
 #include "parts/keys/enterkey.h"
 #include "parts/reading/printtext.h"
+#include "parts/reading/tablewalk.h"
 #include "parts/reading/textfile.h"
 #include "parts/report/report.h"
 #include "platform/files/files.h"
@@ -55,7 +56,9 @@ frmKEKKA::frmKEKKA() : Form(kName, u"KEKKA表示・編集") {
 }
 
 void frmKEKKA::wire() {
-  RichTextBox1.onKeyDown = [this](KeyEvent&) { reader_.keyDown(); };
+  RichTextBox1.onKeyDown = [this](KeyEvent& key) {
+    if (!walkTables(RichTextBox1, key)) reader_.keyDown();
+  };
   RichTextBox1.onChange = [this] { frmKEKKA_RichTextBox1_Change(); };
   Text1.onChange = [this] {
     if (!filling_) talkRichChange(Text1, previousName_);
@@ -72,7 +75,10 @@ void frmKEKKA::wire() {
 
 void frmKEKKA::narrate() {
   Narration voice(*this);
-  voice.explain(u"。結果ﾌｧｲﾙを一行ずつ読み、編集、保存、印刷をします。上下矢印ｷｰで行が読まれます。")
+  voice
+      .explain(
+          u"。結果ﾌｧｲﾙを一行ずつ読み、編集、保存、印刷をします。上下矢印ｷｰで行が読まれます。"
+          u"Altと矢印ｷｰで、表を一ますずつ、行と列の名前と共に読みます。")
       .box(Text1, u"読み込みファイル(KEKKA.txt)　テクストボックス")
       .say(RichTextBox1, kBox);
   for (Button* button : {&Command9, &Command3, &Command2, &Command1, &Command6}) voice.say(*button, u"ｺﾏﾝﾄﾞﾎﾞﾀﾝ");

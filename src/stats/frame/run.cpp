@@ -136,20 +136,30 @@ bool AnalysisRun::finish(Form& form, const Text& closing, bool repeats) {
   const Text said = closing.empty() ? finishedSentence(title_) : closing;
   if (!repeats) {
     waitPastGate();
-    showWindow(said);
+    showWindow(said, said);
     return true;
   }
   {
     const Silence silence;
-    showWindow({});
+    showWindow({}, said);
   }
   showRepeat(said);
   return true;
 }
 
-void AnalysisRun::showWindow(const Text& opening) {
-  if (window_) return showResultWindow(report_.path(), title_, opening, *window_);
-  showResultWindow(report_.path(), title_, opening, report_.written());
+void AnalysisRun::showWindow(const Text& opening, const Text& result) {
+  if (window_)
+    showResultWindow(report_.path(), title_, opening, *window_);
+  else
+    showResultWindow(report_.path(), title_, opening, report_.written());
+  frmHelp* window = loadedForm<frmHelp>();
+  if (!window) return;
+  window->setResult(result);
+  if (window_ || !names_) return;
+  const std::size_t shown = window->RichTextBox1.content().size(), before = shown - std::min(shown, report_.written());
+  window->setNames([names = names_, before](TextView name, std::size_t position) {
+    return position < before ? Text() : names(name, position - before);
+  });
 }
 
 void AnalysisRun::refuse() {

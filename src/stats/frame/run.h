@@ -4,6 +4,7 @@
 #include <optional>
 #include <vector>
 
+#include "parts/reading/tablewalk.h"
 #include "parts/report/report.h"
 #include "platform/forms/form.h"
 #include "platform/text/text.h"
@@ -42,6 +43,8 @@ class AnalysisRun {
   void rest();
   // Lines of the report that are seen in the window too.
   void lines(const std::vector<Text>& lines);
+  // What the names in the tables of this report stand for, by the position in it, for the walk through its window.
+  void nameCells(CellNames names) { names_ = std::move(names); }
   // A line of progress: in the window, and said where the gate allows.
   void tell(TextView line);
   // The same for one of very many steps: its line stands alone in the window, and what is said may differ from it.
@@ -59,11 +62,12 @@ class AnalysisRun {
 
  private:
   void closeDialogs();
-  void showWindow(const Text& opening);
+  void showWindow(const Text& opening, const Text& result);
 
   Text title_;
   std::optional<Text> window_;  // what it shows where it differs from the file
   Report report_;
+  CellNames names_;
   std::optional<Progress> progress_;
   bool begun_ = false, stopped_ = false, windowOpen_ = false;
 };

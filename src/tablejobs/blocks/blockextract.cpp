@@ -3,6 +3,7 @@
 #include "files/output/outputending.h"
 #include "files/output/outputtable.h"
 #include "parts/disk/filewords.h"
+#include "parts/grid/cellfault.h"
 #include "parts/job/job.h"
 #include "parts/ranges/rangetext.h"
 #include "platform/files/blockfiles.h"
@@ -77,8 +78,7 @@ void extractBlocks(FrmBROCK& dialog, const BlockRanges& ranges) {
   const TableDescription table{itemsOnDisk(), {}};
   auto plan = planBlocks(table, recCount(), ranges.records, ranges.items);
   if (!plan) {
-    showOK(u"項目の数は1から255までです", u"項目ﾌﾞﾛｯｸ指定のあやまり");
-    return dialog.Text2.setFocus();
+    return tellCellFault({{}, u"項目の数は1から255までです", u"項目ﾌﾞﾛｯｸ指定のあやまり"}, dialog.Text2);
   }
   const Text fullName = askOutputName();
   if (fullName.empty()) return;

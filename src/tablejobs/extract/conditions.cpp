@@ -3,6 +3,7 @@
 #include "editor/formulas/formula.h"
 #include "platform/fault.h"
 #include "platform/text/number.h"
+#include "platform/text/sjis.h"
 #include "store/records/walk.h"
 #include "store/table/cursor.h"
 
@@ -32,7 +33,8 @@ ConditionTest::Row ConditionTest::compiled(const ConditionRow& row) const {
   out.number = row.type == u"N";
   out.item = toInt16(val(row.item));
   out.relation = relationOf(row.relation);
-  out.value = out.number || logic_.caseCounts ? trimmed(row.value) : upperCase(trimmed(row.value));
+  out.value = trimmed(out.number ? row.value : asStored(row.value));
+  if (!out.number && !logic_.caseCounts) out.value = upperCase(out.value);
   if (!out.number) return out;
   if (!contains(out.value, u"@")) out.constant = computed(out.value);
   const bool alone =

@@ -9,6 +9,7 @@
 #include "store/table/cursor.h"
 #include "store/table/readonly.h"
 #include "voice/dialogs.h"
+#include "voice/heard.h"
 #include "voice/narration.h"
 #include "voice/talk.h"
 
@@ -87,6 +88,7 @@ void frmEOCR::frmEOCR_Command1_Click() {
   if (Check9.value() == 0) run.question = questionFor;
   const CellRunResult result = runOverCells(run);
   if (!endCellRun(result)) return;
+  if (result.stopped) return talkBehindDialog(u"中止しました。" + decimal(result.changed) + u"件変換しました。");
   showOK(u"編集終わりました", u"編集終わり確認");
   sayWhatWasCut(result);
 }

@@ -68,7 +68,7 @@ void frmREPLACE::narrate() {
 }
 
 ReplaceRule frmREPLACE::rule() const {
-  return {.search = RichTextBox1.content(),
+  return {.search = asStored(RichTextBox1.content()),
           .with = RichTextBox2.content(),
           .equal = Check2.value() == 1,
           .caseCounts = Check3.value() == 1,

@@ -4,20 +4,7 @@
 
 namespace zelko {
 
-namespace {
-
-// As a file would give it back: of several characters with one code the usual one.
-Text asStored(TextView typed) {
-  Text out;
-  for (std::size_t at = 0; at < typed.size(); ++at) {
-    const TextView unit = typed.substr(at, 1);
-    const std::string bytes = toSjis(unit);
-    out += bytes == "?" ? Text(unit) : fromSjis(bytes);
-  }
-  return out;
-}
-
-}  // namespace
+namespace {}  // namespace
 
 Matcher::Matcher(const SearchTerms& terms)
     : whole_(terms.whole),

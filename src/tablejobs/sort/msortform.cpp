@@ -163,9 +163,8 @@ bool frmMSORT::checkTable() {
   const SortTableFault fault = checkSortTable(rows(), keys_);
   if (fault.message.empty()) return true;
   host().beep();
-  showOK(fault.message, u"検索条件表の誤り");
   cells_.reshape([&] { Grid1.setCell(fault.row + 1, fault.direction ? kDirection : kItem); });
-  Text1.setFocus();
+  tellCellFault({{}, fault.message, u"検索条件表の誤り"}, Text1);
   return false;
 }
 

@@ -106,7 +106,7 @@ TEST_CASE("Sorts by chance against a second program") {
     CHECK(valuesOf(done, made.widths, keys.back().item) == valuesOf(expected, made.widths, keys.back().item));
     CHECK(sorted(done) == sorted(expected));
     CHECK(std::equal(done.begin(), done.begin() + first, expected.begin()));
-    const Records range(expected.begin() + first, expected.begin() + last + 1);
+    const Records range(expected.begin() + first, expected.begin() + (last + 1));
     CHECK(sorted(cut(store.bytes("out.txt"))) == sorted(range));
     CHECK(valuesOf(cut(store.bytes("out.txt")), made.widths, keys.back().item) ==
           valuesOf(range, made.widths, keys.back().item));

@@ -1,0 +1,8 @@
+// The cross report and the calculators for typed tables.
+#pragma once
+
+namespace zelko {
+
+void registerCrossTable();
+
+}  // namespace zelko
