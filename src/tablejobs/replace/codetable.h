@@ -19,6 +19,9 @@ class CodeTable {
   // What stands for a cell, trimmed; null where its text is no key.
   const Text* find(TextView cell) const;
   std::size_t size() const { return results_.size(); }
+  bool caseCounts() const { return caseCounts_; }
+  // By key, folded.
+  const std::unordered_map<Text, Text>& results() const { return results_; }
 
  private:
   Text folded(TextView text) const;
@@ -27,10 +30,11 @@ class CodeTable {
   std::unordered_map<Text, Text> results_;
 };
 
-// The same for the bytes of cells. What came of them is kept, so that of many equal cells one is converted.
+// The same for the bytes of cells. Cells of single bytes are looked up as they are; what came of others is kept, so
+// that of many equal ones one is converted.
 class CodesOfBytes {
  public:
-  explicit CodesOfBytes(const CodeTable& codes) : codes_(codes) {}
+  explicit CodesOfBytes(const CodeTable& codes);
 
   // The bytes of what stands for a cell; nothing where it is no key. Good until the next call.
   const std::optional<std::string>& find(std::string_view cell);
@@ -40,9 +44,14 @@ class CodesOfBytes {
     using is_transparent = void;
   };
 
+  // Whether all bytes are letters, digits, signs or half-width kana; `folded_` is then the cell as a key is spelled.
+  bool isPlain(std::string_view cell);
+
+  using Results = std::unordered_map<std::string, std::optional<std::string>, Hash, std::equal_to<>>;
   const CodeTable& codes_;
-  std::unordered_map<std::string, std::optional<std::string>, Hash, std::equal_to<>> known_;
-  std::optional<std::string> last_;  // once enough are known
+  Results plain_, known_;
+  std::string folded_;
+  std::optional<std::string> last_;  // of a cell that is not kept
 };
 
 }  // namespace zelko
