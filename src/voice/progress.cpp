@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <exception>
 
+#include "platform/forms/routing.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
 #include "voice/narration.h"
@@ -62,7 +63,7 @@ bool Progress::step(std::int64_t done) {
   return !stopped_;
 }
 
-LateProgress::LateProgress(TextView work, std::int64_t total) : work_(work), total_(total), begun_(host().dayTimer()) {}
+LateProgress::LateProgress(TextView work, std::int64_t total) : work_(work), total_(total) { restart(); }
 
 bool LateProgress::isLate() {
   constexpr float kSeconds = 1;
@@ -76,7 +77,10 @@ void LateProgress::close() {
   dialog_.reset();
 }
 
-void LateProgress::restart() { begun_ = host().dayTimer(); }
+void LateProgress::restart() {
+  begun_ = host().dayTimer();
+  takeLostEscape();
+}
 
 bool LateProgress::shows(std::int64_t done) { return dialog_ ? dialog_->shows(done) : isLate(); }
 
@@ -84,7 +88,7 @@ bool LateProgress::step(std::int64_t done) {
   if (!dialog_ && isLate()) dialog_.emplace(work_, total_);
   if (dialog_) return dialog_->step(done);
   host().letEventsThrough();
-  return true;
+  return !takeLostEscape();
 }
 
 }  // namespace zelko

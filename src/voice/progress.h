@@ -35,7 +35,7 @@ class Progress {
   bool stopped_ = false;
 };
 
-// Work that is mostly short: its dialog opens once a second has passed.
+// Work that is mostly short: its dialog opens once a second has passed; Esc stops it before that, too.
 class LateProgress {
  public:
   explicit LateProgress(TextView work, std::int64_t total = 0);
@@ -51,7 +51,7 @@ class LateProgress {
 
   Text work_;
   std::int64_t total_;
-  float begun_;
+  float begun_ = 0;
   std::optional<Progress> dialog_;
 };
 

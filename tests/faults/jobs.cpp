@@ -47,6 +47,22 @@ const std::vector<Job> kJobs = {
      "wait 1\n# job\nmenu mnuMBROCK\nwait 1\nfocus FrmBROCK.Text2\ncommit 1/0\nkey Enter\ncommit new.txt\nkey "
      "Enter\nwait 2\nkey Y",
      "new.txt"},
+    {"blocks-appended", Holds::whole,
+     "key Down\nkey Alt+Down\nkey Down\nkey Enter\n# job\nmenu mnuBROCK\ntype new.txt\\n\nwait 2\nkey Y\nwait 1",
+     "new.txt"},
+    {"extract-by-conditions", Holds::whole,
+     "menu mnuMFIND\ntype n\\n2\\n>\\n7\\n\nfocus Form7.Check2\nkey Space\nclick Form7.Command1\n# job\ntype "
+     "new.txt\\n\nwait 2\nkey Y\nwait 1",
+     "new.txt"},
+    {"extract-by-text", Holds::whole,
+     "key Right\nmenu mnuFIND\nkey Shift+Ctrl+A\ncommit o\nfocus Form2.Check4\nkey Space\nclick Form2.Command1\n# "
+     "job\ntype new.txt\\n\nwait 2\nkey Y\nwait 1",
+     "new.txt"},
+    {"csv-read", Holds::whole,
+     "wait 1\nmenu mnuREAD\nwait 1\nfocus frmDISK.Command2\nkey Enter\nwait 1\nfocus frmDESIGN.Command4\nkey "
+     "Enter\nkey Down\nwait 1\nkey Enter\nwait 2\nfocus frmDESIGN.text3\ntype new\nfocus frmDESIGN.Command1\nkey "
+     "Enter\nwait 2\nfocus frmDISK.Command1\n# job\nkey Enter\nwait 2",
+     "new.txt"},
     {"lock-and-release", Holds::records,
      "type x\nkey Enter\nmenu mnuFbt\nkey Y\nwait 2\nmenu mnuFbt\nkey Y\nwait 2\ntype y\nkey Enter\nkey Down"},
     {"replace-at-once", Holds::records,
@@ -102,6 +118,7 @@ std::vector<std::pair<std::string, std::string>> filesBefore() {
           {"Kd.txt", items},
           {"m1.___", record("m1")},
           {"km1.___", items},
+          {"in.csv", "7,seven,70,g\r\n8,\"ei,ght\",80,h\r\n"},
           {"0.lst", "line one\r\nline two\r\n"},
           {"ZLKCLip", "2\r\n1\r\n2\r\n2\r\n1\r\n2\r\n\"p\"\r\n\"55\"\r\n\"q\"\r\n\"66\"\r\n"},
           {"zlkTalk", " 1 \r\n"},

@@ -7,8 +7,8 @@
 using namespace zelko;
 
 TEST_CASE("blocks keep their written order, and a bad range names what is wrong") {
-  CHECK(rangeBlocks(u"10-15/80-100/3") == std::vector<RangeBlock>{{10, 15}, {80, 100}, {3, 3}});
-  CHECK(rangeBlocks(u"-5/３－/") == std::vector<RangeBlock>{{5, 5}, {3, 0}});
+  CHECK(rangeBlocks(u"10-15/80-100/3") == std::vector<NumberBlock>{{10, 15}, {80, 100}, {3, 3}});
+  CHECK(rangeBlocks(u"-5/３－/") == std::vector<NumberBlock>{{5, 5}, {3, 0}});
   CHECK(rangeBlocks(u"/").empty());
   CHECK(numbersOfRange(u"6/0-2/6/7-3", 255) == std::vector<std::int32_t>{6, 0, 1, 2, 6});
   CHECK_FALSE(numbersOfRange(u"0-4000000000", 255));

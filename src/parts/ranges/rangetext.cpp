@@ -36,7 +36,7 @@ TextView faultOfSigns(TextView text) {
   return {};
 }
 
-TextView faultOfBlock(RangeBlock block, int kind, std::int32_t records) {
+TextView faultOfBlock(NumberBlock block, int kind, std::int32_t records) {
   const auto [lowest, highest] = std::minmax(block.from, block.to);
   if (kind == kRecordRange) {
     if (highest > records) return u"レコード番号がオーバ";
@@ -54,7 +54,7 @@ void checkRangeText(Text& text, Text& message, int kind) {
   message = faultOfSigns(text);
   const std::int32_t records = kind == kRecordRange ? recCount() : 0;
   do {
-    RangeBlock block;
+    NumberBlock block;
     nextRangeBlock(block.from, block.to, text);
     if (message.empty()) message = faultOfBlock(block, kind, records);
   } while (!text.empty());
@@ -72,27 +72,27 @@ void nextRangeBlock(std::int32_t& from, std::int32_t& to, Text& text) {
   dropMarks(text);
 }
 
-std::vector<RangeBlock> rangeBlocks(TextView text) {
-  std::vector<RangeBlock> blocks;
+std::vector<NumberBlock> rangeBlocks(TextView text) {
+  std::vector<NumberBlock> blocks;
   Text rest = toHalfWidth(text);
   for (dropMarks(rest); !rest.empty();) {
-    RangeBlock& block = blocks.emplace_back();
+    NumberBlock& block = blocks.emplace_back();
     nextRangeBlock(block.from, block.to, rest);
   }
   return blocks;
 }
 
-std::int64_t countOfRange(const std::vector<RangeBlock>& blocks) {
+std::int64_t countOfRange(const std::vector<NumberBlock>& blocks) {
   std::int64_t count = 0;
-  for (const RangeBlock& block : blocks) count += std::max<std::int64_t>(std::int64_t{block.to} - block.from + 1, 0);
+  for (const NumberBlock& block : blocks) count += std::max<std::int64_t>(std::int64_t{block.to} - block.from + 1, 0);
   return count;
 }
 
 std::optional<std::vector<std::int32_t>> numbersOfRange(TextView text, std::size_t most) {
-  const std::vector<RangeBlock> blocks = rangeBlocks(text);
+  const std::vector<NumberBlock> blocks = rangeBlocks(text);
   if (countOfRange(blocks) > static_cast<std::int64_t>(most)) return std::nullopt;
   std::vector<std::int32_t> numbers;
-  for (const RangeBlock& block : blocks) {
+  for (const NumberBlock& block : blocks) {
     for (std::int64_t number = block.from; number <= block.to; ++number)
       numbers.push_back(static_cast<std::int32_t>(number));
   }

@@ -20,14 +20,14 @@ void checkRangeText(Text& text, Text& message, int kind);
 // the largest that there is. The text is empty when no block is left.
 void nextRangeBlock(std::int32_t& from, std::int32_t& to, Text& text);
 
-struct RangeBlock {
+struct NumberBlock {
   std::int32_t from = 0, to = 0;
-  bool operator==(const RangeBlock&) const = default;
+  bool operator==(const NumberBlock&) const = default;
 };
 // All blocks in the written order; a checked text.
-std::vector<RangeBlock> rangeBlocks(TextView text);
+std::vector<NumberBlock> rangeBlocks(TextView text);
 // How many numbers the blocks name; one that runs downwards names none.
-std::int64_t countOfRange(const std::vector<RangeBlock>& blocks);
+std::int64_t countOfRange(const std::vector<NumberBlock>& blocks);
 // Each number, in the written order; nullopt where there are more than `most`.
 std::optional<std::vector<std::int32_t>> numbersOfRange(TextView text, std::size_t most);
 

@@ -18,7 +18,8 @@ struct Press {
   const Control* control;  // null: whichever has the focus in the form
 };
 std::vector<Press> presses;
-int underWay = 0;  // the key whose press is being routed
+bool escapeLost = false;  // what takeLostEscape hands out
+int underWay = 0;         // the key whose press is being routed
 
 void forgetPress(int code) {
   std::erase_if(presses, [code](const Press& press) { return press.code == code; });
@@ -188,7 +189,10 @@ bool routeKeyDown(int code, int mask, char16_t ch) {
   Screen::HandlerScope scope;
   forgetPress(code);
   Form* form = screen().activeForm();
-  if (!form || !screen().takesInput(*form)) return true;
+  if (!form || !screen().takesInput(*form)) {
+    escapeLost = escapeLost || (screen().workDepth > 0 && code == key::Esc && mask == shift::None);
+    return true;
+  }
   KeyEvent key{code, mask};
   if (form->menu().highlighted()) return form->menu().walkKey(key);
   notePress(code, mask, *form);
@@ -216,6 +220,8 @@ void routeKeyUp(int code) {
   if (key.code == 0 || way.broken() || !way.control()) return;
   if (!press->control || press->control == way.control()) fire(way.control()->onKeyUp, key);
 }
+
+bool takeLostEscape() { return std::exchange(escapeLost, false); }
 
 void passRelease(const Form& form) {
   for (Press& press : presses) {

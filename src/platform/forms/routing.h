@@ -13,6 +13,8 @@ bool routeKeyDown(int code, int mask, char16_t ch);
 // the control that took the press; where these have the focus no more, where a menu or a button's Alt+letter used the
 // press up, or where a modifier has made a chord meanwhile, nobody hears of it.
 void routeKeyUp(int code);
+// Whether Esc was pressed since it was asked last while work or a wait kept every form from taking it.
+bool takeLostEscape();
 // The form that the key on its way opens answers the release itself, as one that walks on while the key is held.
 void passRelease(const Form& form);
 // No key is down any more, as when another program has the keyboard; or none that this form, which is going, took.

@@ -16,7 +16,7 @@ constexpr std::size_t kLongestList = 200;  // characters of the memo behind whic
 std::vector<Stretch> stretchesOf(std::int32_t records, TextView text) {
   if (text.empty()) return {{1, records}};
   std::vector<Stretch> stretches;
-  for (const RangeBlock& block : rangeBlocks(text)) {
+  for (const NumberBlock& block : rangeBlocks(text)) {
     if (block.to >= block.from) stretches.push_back({block.from, block.to - block.from + 1});
   }
   return stretches;

@@ -1,19 +1,15 @@
 #include "tablejobs/replace/codereplace.h"
 
 #include "editor/main/commands.h"
-#include "files/picker/filenumber.h"
 #include "parts/job/job.h"
 #include "platform/files/blockfiles.h"
 #include "platform/files/ownedfile.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
-#include "platform/text/sjis.h"
 #include "store/records/records.h"
 #include "store/records/walk.h"
 #include "store/table/itemfile.h"
 #include "store/table/notice.h"
-#include "tablejobs/replace/cellrun.h"
-#include "tablejobs/replace/codetable.h"
 #include "voice/dialogs.h"
 #include "voice/talk.h"
 
@@ -23,9 +19,8 @@ namespace {
 
 constexpr TextView kWork = u"ｺｰﾄﾞﾌｧｲﾙによる置換", kCheck = u"確認";
 
-enum class CodesRead { whole, empty, stopped, failed };
+}  // namespace
 
-// The keys of the chosen file, whose description stands in the second set.
 CodesRead readCodes(const FileItem& chosen, CodeTable& codes) {
   OwnedFile file;
   if (file.openRandom(chosen.dataFile, recLen) != FileError::none) return CodesRead::failed;
@@ -42,6 +37,23 @@ CodesRead readCodes(const FileItem& chosen, CodeTable& codes) {
   });
   return end == WalkEnd::done ? CodesRead::whole : end == WalkEnd::stopped ? CodesRead::stopped : CodesRead::failed;
 }
+
+CodesReplaced replaceByCodes(const CodeTable& codes) {
+  CodesReplaced done;
+  CodesOfBytes known(codes);
+  CellRun run;
+  run.work = kWork;
+  run.scope = scopeOf(1, recCount(), currentItemOnly());
+  run.change = [&](std::string_view cell) {
+    const std::optional<std::string>& result = known.find(cell);
+    if (!result) ++done.unknown;
+    return result;
+  };
+  done.run = runOverCells(run);
+  return done;
+}
+
+namespace {
 
 bool isOpenTable(TextView dataFile) { return behindLinks(dataFile) == behindLinks(joinName(docDrive, docPath)); }
 
@@ -64,21 +76,13 @@ bool haveCodes(const FileItem& chosen, CodeTable& codes) {
 }
 
 void replaceBy(const CodeTable& codes) {
-  CellRun run;
-  run.work = kWork;
-  run.scope = scopeOf(1, recCount(), currentItemOnly());
+  const auto [run, unknown] = replaceByCodes(codes);
+  if (!endCellRun(run)) return;
   JobCounts counts;
-  run.change = [&](std::string_view cell) -> std::optional<std::string> {
-    const Text* result = codes.find(fromSjis(cell));
-    if (result) return toSjis(*result);
-    ++counts.skipped;
-    return std::nullopt;
-  };
-  const CellRunResult result = runOverCells(run);
-  if (!endCellRun(result)) return;
-  counts.done = result.changed;
-  counts.cut = result.cut;
-  talkBehindDialog(countsSentence(result.stopped ? JobEnd::stopped : JobEnd::done, counts));
+  counts.skipped = unknown;
+  counts.done = run.changed;
+  counts.cut = run.cut;
+  talkBehindDialog(countsSentence(run.stopped ? JobEnd::stopped : JobEnd::done, counts));
 }
 
 }  // namespace

@@ -1,6 +1,9 @@
 // The keys of a code file and what stands for each.
 #pragma once
 
+#include <optional>
+#include <string>
+#include <string_view>
 #include <unordered_map>
 
 #include "platform/text/text.h"
@@ -22,6 +25,24 @@ class CodeTable {
 
   bool caseCounts_;
   std::unordered_map<Text, Text> results_;
+};
+
+// The same for the bytes of cells. What came of them is kept, so that of many equal cells one is converted.
+class CodesOfBytes {
+ public:
+  explicit CodesOfBytes(const CodeTable& codes) : codes_(codes) {}
+
+  // The bytes of what stands for a cell; nothing where it is no key. Good until the next call.
+  const std::optional<std::string>& find(std::string_view cell);
+
+ private:
+  struct Hash : std::hash<std::string_view> {
+    using is_transparent = void;
+  };
+
+  const CodeTable& codes_;
+  std::unordered_map<std::string, std::optional<std::string>, Hash, std::equal_to<>> known_;
+  std::optional<std::string> last_;  // once enough are known
 };
 
 }  // namespace zelko

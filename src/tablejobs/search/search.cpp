@@ -52,7 +52,8 @@ SearchSettings settingsForKeys(bool towardsHead) {
   return settings;
 }
 
-void tellScan(const Scan& scan, const SearchSettings& settings) {
+// `looked` is the cell that was looked at last.
+void tellScan(const Scan& scan, CellAt looked, const SearchSettings& settings) {
   switch (scan.end) {
     case ScanEnd::hit:
       host().beep();
@@ -64,10 +65,10 @@ void tellScan(const Scan& scan, const SearchSettings& settings) {
       host().beep();
       return showOK(roundReport(settings.way), u"検索終了");
     case ScanEnd::stopped:
-      showFoundCell({curRec, curItem});
+      showFoundCell(looked);
       return talkBehindDialog(u"検索を中止しました。ギョウ" + decimal(curRec) + u" 項目" + decimal(curItem));
     case ScanEnd::failed:
-      showFoundCell({curRec, curItem});
+      showFoundCell(looked);
       return tellSearchUnreadable();
   }
 }
@@ -130,12 +131,13 @@ void searchAgain(bool towardsHead) {
   const SearchSettings settings = settingsForKeys(towardsHead);
   if (keyHit != CellAt{curRec, curItem} || keysTowardsHead != towardsHead) keyRound.end();
   keysTowardsHead = towardsHead;
-  const Scan scan = keyRound.next(settings, kWork, [](CellAt at) {
-    curRec = at.record;
-    curItem = at.item;
+  // The boxes show the old cell until the dialog has gone: the cursor stays with them.
+  CellAt looked = {curRec, curItem};
+  const Scan scan = keyRound.next(settings, kWork, [&looked](CellAt at) {
+    looked = at;
     return true;
   });
-  tellScan(scan, settings);
+  tellScan(scan, looked, settings);
 }
 
 void tellHitCount() {

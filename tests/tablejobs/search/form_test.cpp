@@ -4,6 +4,7 @@
 #include "editor/editor_fixture.h"
 #include "editor/show/card.h"
 #include "editor/show/view.h"
+#include "platform/text/number.h"
 #include "store/table/cursor.h"
 #include "tablejobs/search/searchform.h"
 #include "voice/dialogs.h"
@@ -65,4 +66,13 @@ TEST_CASE("a long search says where it is, and is stopped by ear") {
                               [](const std::string& line) { return contains(fromUtf8(line), u"ぎょう検索中"); }) == 1);
   CHECK((curRec > 400 && curRec < 600));
   CHECK(screen().activeForm() == &mainForm());
+
+  // By key: before the dialog is there, and while it is; what it leaves says the cell that the boxes show.
+  const std::int32_t before = curRec;
+  user.Fixture::play("later 50 key Esc");
+  CHECK(contains(fromUtf8(user.play({"Ctrl+N"}).back()), u"検索を中止しました。ギョウ" + decimal(before + 49)));
+  user.Fixture::play("later 20 wait 1.5\nlater 40 key Esc");
+  const Heard closed = user.play({"Ctrl+N"});
+  CHECK(contains(fromUtf8(closed.at(closed.size() - 2)), u"ギョウ" + decimal(before + 49)));
+  CHECK(curRec == before + 88);
 }
