@@ -148,6 +148,9 @@ void FormWindow::focusOn(const Control* control) {
   frame_->surround(widget);
   if (!widget) return setFocus(Qt::OtherFocusReason);
   widget->setFocus(Qt::OtherFocusReason);
+  // The whole of it first: of a list or a text the second call looks at the current line alone.
+  const QRect place(widget->mapTo(page_, QPoint(0, 0)), widget->size());
+  scroll_->ensureVisible(place.center().x(), place.center().y(), 0, place.height() / 2 + 1);
   scroll_->ensureWidgetVisible(widget);
 }
 
