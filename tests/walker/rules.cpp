@@ -48,7 +48,8 @@ bool isKnown(const std::string& name) {
   static constexpr std::array<std::string_view, 10> names = {
       "ZLKCLip", "ZLKCLip.bak", "ZLKCLip.for", "zlkTalk", "mAgent", "zlkHAHAKI", "zlkTEL", "zlkPORT", "KEKKA", "EKKA"};
   if (std::find(names.begin(), names.end(), name) != names.end()) return true;
-  return name.ends_with(".txt") || name.ends_with(".TXT") || name.ends_with(".csv");
+  return name.ends_with(".txt") || name.ends_with(".TXT") || name.ends_with(".csv") || name.ends_with(".svg") ||
+         name.ends_with(".png");
 }
 
 // At the other levels less is said, and only what is asked for.

@@ -13,6 +13,7 @@
 #include "store/table/notice.h"
 #include "voice/dialogs.h"
 #include "voice/heard.h"
+#include "voice/names.h"
 #include "voice/progress.h"
 #include "voice/talk.h"
 
@@ -75,6 +76,10 @@ FrmU::FrmU() : Form(kName, u"u-検定、組換え法") {
 }
 
 void FrmU::wire() {
+  Text3.onChange = [this] { talkRichChange(Text3, previous_[0]); };
+  Text4.onChange = [this] { talkRichChange(Text4, previous_[1]); };
+  previous_[2] = Text5.content();
+  Text5.onChange = [this] { talkRichChange(Text5, previous_[2]); };
   sample1_.onChanged = sample2_.onChanged = [this] { forgetResults(); };
   Command1.onClick = [this] { FrmU_Command1_Click(); };
   Command2.onClick = [this] { FrmU_Command2_Click(); };

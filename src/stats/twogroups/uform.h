@@ -1,6 +1,7 @@
 // Two groups of values compared: by ranks, and by random reassignment.
 #pragma once
 
+#include <array>
 #include <optional>
 
 #include "platform/forms/controls.h"
@@ -55,6 +56,7 @@ class FrmU : public Form {
   void sayResult();
 
   Sample sample1_{Grid1, Text1, u"群1"}, sample2_{Grid2, Text2, u"群2"};
+  std::array<Text, 3> previous_;  // of the names and the number of trials
   std::optional<Groups> groups_;
   std::optional<numbers::UTest> test_;
   std::optional<Rates> rates_;
