@@ -4,11 +4,11 @@
 #include <optional>
 
 #include "editor/formulas/formula.h"
+#include "parts/ask/checkednumber.h"
 #include "parts/ask/typed.h"
 #include "platform/fault.h"
 #include "platform/text/format.h"
 #include "platform/text/number.h"
-#include "platform/text/numcheck.h"
 #include "stats/numbers/exact.h"
 #include "stats/numbers/probability.h"
 #include "voice/talk.h"
@@ -20,14 +20,6 @@ namespace {
 constexpr TextView kSetting = u"設定値エラー", kDegrees = u"自由度エラー", kEntry = u"入力値エラー";
 constexpr TextView kArea = u"##0.00000", kProbability = u"###0.00000", kFourDigits = u"0.0000";
 constexpr int kMostTrials = 10000, kMostDegrees = 32767;
-
-// In half width, read where it is a number: "12abc" is 12.
-std::optional<double> numberOf(const Text& typed) {
-  const Text code = typedCode(typed);
-  const auto value = typedVal(code);
-  if (!value || (*value == 0 && numCheck(code) != 0)) return std::nullopt;
-  return value;
-}
 
 bool isBlank(const Text& typed) { return typedCode(typed).empty(); }
 
@@ -58,7 +50,7 @@ Calculation probability(double told, double exact) {
 // Whole degrees of freedom, at least 1; `result` has the fault else.
 std::optional<int> degrees(const Text& typed, int box, const Text& notANumber, const Text& tooFew, TextView title,
                            Calculation& result) {
-  const auto value = numberOf(typed);
+  const auto value = checkedNumber(typed);
   const bool tooMany = value && *value > kMostDegrees;
   if (!value || tooMany) {
     result = wrong(box, notANumber, title);
@@ -71,10 +63,10 @@ std::optional<int> degrees(const Text& typed, int box, const Text& notANumber, c
 }
 
 std::optional<double> zOf(const CalculatorBoxes& boxes, Calculation& result) {
-  const auto first = numberOf(boxes.values[0]);
+  const auto first = checkedNumber(boxes.values[0]);
   if (!first) return std::nullopt;
   if (!boxes.raw) return std::fabs(*first);
-  const auto deviation = numberOf(boxes.values[1]), mean = numberOf(boxes.values[2]);
+  const auto deviation = checkedNumber(boxes.values[1]), mean = checkedNumber(boxes.values[2]);
   if (!isBlank(boxes.values[1]) && (!deviation || *deviation == 0)) {
     result = wrong(1, u"標準偏差の値が不正です", kSetting);
   } else if (!isBlank(boxes.values[2]) && !mean) {
@@ -99,7 +91,7 @@ Calculation normalCalculation(const CalculatorBoxes& boxes) {
 }
 
 Calculation tCalculation(const CalculatorBoxes& boxes) {
-  const auto t = numberOf(boxes.values[0]);
+  const auto t = checkedNumber(boxes.values[0]);
   Calculation result;
   if (isBlank(boxes.values[1])) return result;
   const auto v = degrees(boxes.values[1], 1, u"正しく自由度を入力してください", u"1以上の自由度を入力してください",
@@ -109,7 +101,7 @@ Calculation tCalculation(const CalculatorBoxes& boxes) {
 }
 
 Calculation chiCalculation(const CalculatorBoxes& boxes) {
-  const auto chi = numberOf(boxes.values[0]);
+  const auto chi = checkedNumber(boxes.values[0]);
   Calculation result;
   if (isBlank(boxes.values[1])) return result;
   const auto v = degrees(boxes.values[1], 1, u"正しく自由度を入力してください", u"1以上の自由度を入力してください",
@@ -126,7 +118,7 @@ Calculation chiCalculation(const CalculatorBoxes& boxes) {
 }
 
 Calculation fCalculation(const CalculatorBoxes& boxes) {
-  const auto value = numberOf(boxes.values[0]);
+  const auto value = checkedNumber(boxes.values[0]);
   Calculation result;
   if (isBlank(boxes.values[1])) return result;
   const Text numerator = u"自由度(分子)の値が不正です", denominator = u"自由度(分母)の値が不正です";
@@ -162,7 +154,7 @@ Calculation toldBinomial(int r, double p, int n) {
 
 Calculation binomialCalculation(const CalculatorBoxes& boxes) {
   const auto& [events, rate, trials] = boxes.values;
-  const auto r = numberOf(events), n = numberOf(trials);
+  const auto r = checkedNumber(events), n = checkedNumber(trials);
   if (r && n && *r > *n) return wrong(0, u"生起回数入力値が試行回を越しています", kEntry);
   if (r && *r < 0) return wrong(0, u"生起回数の値が不正です", kEntry);
   bool isNumber = false;

@@ -1,10 +1,10 @@
 #include "stats/twogroups/sample.h"
 
 #include "editor/clip/clipfile.h"
+#include "parts/ask/checkednumber.h"
 #include "parts/ask/typed.h"
 #include "platform/host.h"
 #include "platform/text/number.h"
-#include "platform/text/numcheck.h"
 #include "store/table/notice.h"
 #include "voice/dialogs.h"
 #include "voice/heard.h"
@@ -16,13 +16,6 @@ namespace {
 
 constexpr int kData = 1, kRank = 2;
 constexpr int kRowsAtStart = 30, kRowsMore = 100, kMostRows = 5000;
-
-std::optional<double> numberOf(const Text& cell) {
-  const Text code = typedCode(cell);
-  const auto value = typedVal(code);
-  if (!value || (*value == 0 && numCheck(code) != 0)) return std::nullopt;
-  return value;
-}
 
 CellRules rules() {
   CellRules rules;
@@ -46,7 +39,7 @@ Sample::Sample(Grid& grid, TextBox& box, TextView group)
     return group_ + u"の" + decimal(row) + u"番目" + (rank.empty() ? Text() : u"順位" + rank) + u"ﾃｷｽﾄﾎﾞｯｸｽ";
   };
   editor_.on.fault = [](int, int, const Text& typed) -> std::optional<CellFault> {
-    if (typedCode(typed).empty() || numberOf(typed)) return std::nullopt;
+    if (typedCode(typed).empty() || checkedNumber(typed)) return std::nullopt;
     return CellFault{u"数値でわありません", u"数値を入力してください", u"注意"};
   };
   editor_.on.stored = [](int, int, const Text& typed) { return typedCode(typed); };
@@ -73,7 +66,7 @@ std::optional<std::vector<double>> Sample::values() {
   for (int row = 1; row <= lastFilledRow(); ++row) {
     const Text cell = editor_.textAt(row, kData);
     if (typedCode(cell).empty()) continue;
-    const auto value = numberOf(cell);
+    const auto value = checkedNumber(cell);
     if (!value) {
       tellFailure(group_ + u"の" + decimal(row) + u"番目が数値でわありません", u"注意");
       return std::nullopt;
