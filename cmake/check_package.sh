@@ -18,8 +18,8 @@ echo "package: $(basename "$deb"), $(dpkg-deb --field "$deb" Installed-Size) KB 
 
 if have lintian; then
   # Not built from a source package of the distribution, so there is no bug to name.
-  lintian --no-tag-display-limit --allow-root --suppress-tags initial-upload-closes-no-bugs "$deb" | tee "$work/lintian" || true
-  ! grep -q '^E:' "$work/lintian"
+  lintian --tag-display-limit 0 --allow-root --suppress-tags initial-upload-closes-no-bugs "$deb" | tee "$work/lintian" || true
+  if grep -q '^E:' "$work/lintian"; then exit 1; fi
 fi
 if have desktop-file-validate; then desktop-file-validate "$root/assets/zelko.desktop"; fi
 if have appstreamcli; then appstreamcli validate --no-net "$root/assets/zelko.metainfo.xml" >"$work/log" || { cat "$work/log"; exit 1; }; fi

@@ -5,22 +5,21 @@ set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
 set(CPACK_PACKAGE_CONTACT "The Zelko developers <maintainers@zelko.invalid>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "table editor and statistics run by keyboard and ear, in Japanese")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
-"${CPACK_PACKAGE_DESCRIPTION_SUMMARY}
- Tables, address books, exam marks and research data are kept in plain text
- files. The user moves from cell to cell by key, types into one box, and hears
- every move, control and result as a Japanese sentence: search, sorting,
- extraction, statistics, scoring, printing of labels and postcards.
- .
- 耳で使う表編集と統計のソフトです。キーでセルを移動し、一つの入力ボックスに入力すると、移動も、
- ボタンも、結果も、すべて日本語の文で読み上げられます。検索、並べかえ、抽出、統計、採点、
- 宛名シールと葉書の印刷ができます。")
+"Tables, address books, exam marks and research data are kept in plain text
+files. The user moves from cell to cell by key, types into one box, and hears
+every move, control and result as a Japanese sentence: search, sorting,
+extraction, statistics, scoring, printing of labels and postcards.
+
+耳で使う表編集と統計のソフトです。キーでセルを移動し、一つの入力ボックスに入力すると、
+移動も、ボタンも、結果も、すべて日本語の文で読み上げられます。検索、並べかえ、抽出、統計、
+採点、宛名シールと葉書の印刷ができます。")
 set(CPACK_DEBIAN_PACKAGE_SECTION editors)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # What is run or read, and not linked.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS
-  "bash, mecab-ipadic-utf8, speech-dispatcher, speech-dispatcher-espeak-ng, fonts-ipafont-gothic, fonts-ipafont-mincho")
+  "mecab-ipadic-utf8, speech-dispatcher, speech-dispatcher-espeak-ng, fonts-ipafont-gothic, fonts-ipafont-mincho")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "skkdic-extra")
 set(CPACK_STRIP_FILES ON)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
