@@ -1,8 +1,10 @@
 #!/usr/bin/env bash
 # Makes the package, judges it, and tries it in a bare system of its own: check_package.sh [BUILD-FOLDER]
-# What this machine lacks for it (lintian, the validators, debootstrap, root) is named and passed over.
+# What it needs is installed where that is allowed; what is missing all the same is named and passed over.
 set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
+. "$root/cmake/packages.sh"
+install_packages "${package_packages[@]}" || echo "package: going on with what is here"
 build=${1:-$root/build}
 work=$(mktemp -d)
 trap 'rm -rf --one-file-system "$work"' EXIT
@@ -12,7 +14,7 @@ have() {
   return 1
 }
 
-cmake --build "$build" --target manpages package >"$work/log" 2>&1 || { cat "$work/log"; exit 1; }
+{ cmake "$build" && cmake --build "$build" --target manpages package; } >"$work/log" 2>&1 || { cat "$work/log"; exit 1; }
 deb=$(ls -t "$build"/zelko_*.deb | head -1)
 echo "package: $(basename "$deb"), $(dpkg-deb --field "$deb" Installed-Size) KB installed"
 
