@@ -35,6 +35,7 @@ install_packages() {
 build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev libmecab-dev mecab-ipadic-utf8 kanjidic edict
                 unicode-data python3 speech-dispatcher speech-dispatcher-espeak-ng espeak-ng fonts-ipafont)
 test_packages=(doctest-dev clang-format)
+package_packages=(dpkg-dev file lowdown lintian desktop-file-utils appstream debootstrap)
 
 # configure_and_build FOLDER CMAKE-OPTIONS... -- TARGETS...
 configure_and_build() {

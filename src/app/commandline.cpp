@@ -2,9 +2,13 @@
 
 #include <filesystem>
 
+#include "platform/text/userlanguage.h"
+
 namespace zelko {
 
-const char* const kUsage =
+namespace {
+
+constexpr const char* kUsage =
     "usage: zelko [--no-reader] [TABLE]\n"
     "       zelko --replay SCRIPT [--dir FOLDER] [TABLE]\n"
     "\n"
@@ -17,7 +21,18 @@ const char* const kUsage =
     "  --version        the version\n"
     "  --               what follows is a table, also when it begins with -\n";
 
-namespace {
+constexpr const char* kUsageJapanese =
+    "使い方: zelko [--no-reader] [表]\n"
+    "        zelko --replay 台本 [--dir フォルダ] [表]\n"
+    "\n"
+    "表（データファイル 名前.txt と、その隣の項目ファイル K名前.txt）を開きます。省略すると、起動画面を開きます。\n"
+    "\n"
+    "  --no-reader      自分では読み上げず、クリップボードを読み上げるほかのソフトに任せます\n"
+    "  --replay 台本    画面なしで台本を再生し、記録を出力します（- は標準入力）\n"
+    "  --dir フォルダ   再生するときのプログラムのフォルダ。省略すると、いまのフォルダ\n"
+    "  --help           この説明\n"
+    "  --version        版\n"
+    "  --               このあとは、- で始まっていても表の名前です\n";
 
 // Options that stand alone; false for any other argument.
 bool readFlag(const std::string& argument, CommandLine& line) {
@@ -50,6 +65,8 @@ CommandLine complaint(CommandLine line, std::string text) {
 }
 
 }  // namespace
+
+const char* usage() { return userReadsJapanese() ? kUsageJapanese : kUsage; }
 
 CommandLine readCommandLine(const std::vector<std::string>& arguments) {
   CommandLine line;

@@ -20,6 +20,7 @@ struct CommandLine {
 // `arguments` without the program's name. "--" ends the options, so that a table may begin with "-".
 CommandLine readCommandLine(const std::vector<std::string>& arguments);
 
-extern const char* const kUsage;
+// What --help prints, in the language of the user.
+const char* usage();
 
 }  // namespace zelko

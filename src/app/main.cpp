@@ -16,7 +16,7 @@ using namespace zelko;
 constexpr int kWrongUse = 2;
 
 int wrongUse(const std::string& complaint) {
-  std::cerr << "zelko: " << complaint << "\n" << kUsage;
+  std::cerr << "zelko: " << complaint << "\n" << usage();
   return kWrongUse;
 }
 
@@ -48,7 +48,7 @@ int main(int argc, char** argv) {
     case CommandLine::Action::wrong:
       return wrongUse(line.complaint);
     case CommandLine::Action::help:
-      std::cout << kUsage;
+      std::cout << usage();
       return 0;
     case CommandLine::Action::version:
       std::cout << "zelko " << ZELKO_VERSION << "\n";

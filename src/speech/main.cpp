@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "platform/text/text.h"
+#include "platform/text/userlanguage.h"
 #include "speech/descriptions.h"
 #include "speech/dictionary.h"
 #include "speech/kana.h"
@@ -52,6 +53,32 @@ lines of other events (beep, end, fault, print, serial, FAILED, "+ FORM", "- FOR
 a sentence.
 
 exit status: 0 the input ended; 1 there is neither a display nor an input; 2 wrong use
+)";
+
+constexpr const char* kHelpJapanese =
+    R"(使い方: zelko-reader [--print] [--clipboard | --stdin] [--plain]
+        zelko-reader --describe 文字列
+
+クリップボードに新しい文が入るたびに、デスクトップの音声サービスを通して日本語で読み上げます。新しい文が来ると、
+読んでいる文はそこで終わります。文の中の「＜速さ０＞」から「＜速さ９＞」は速さを決め、読まれません。
+
+  --print      読み上げずに出力します。一つの文について:
+                 say 文       届いたままの文。行末は \n（「agent 文」は話すキャラクタの文）
+                 speed 数     その中の速さ、0から9
+                 kana 文      音声エンジンに渡すかな。五分で話せる長さまで
+  --clipboard  文をクリップボードから受け取ります
+  --stdin      文を標準入力から受け取ります。一行が一つの文
+  --plain      どの行も、書いてあるとおりの文とします
+  --describe   文字列の一字ごとに、詳しい読みと文字コードを出力します:「学  学校のガク、まなぶ  シフトJIS ...」
+  --help       この説明
+
+--clipboard も --stdin もないときは、画面があればクリップボード、なければ標準入力を使います。--print のときは、標準入力が
+パイプかファイルであれば、それを使います。
+
+行は「zelko --replay」の出力でもかまいません。「say 文」と「agent 文」は文として読み（\n は行末）、ほかの出来事の行（beep、
+end、fault、print、serial、FAILED、「+ 画面」、「- 画面」）は読みません。そのほかの行は、そのまま文です。
+
+終了コード: 0 入力の終わり、1 画面も入力もない、2 使い方の間違い
 )";
 
 struct Options {
@@ -174,7 +201,7 @@ int main(int argc, char** argv) {
   Options options;
   for (int i = 1; i < argc; ++i) {
     const std::string_view option = argv[i];
-    if (option == "--help") return std::cout << kHelp, 0;
+    if (option == "--help") return std::cout << (userReadsJapanese() ? kHelpJapanese : kHelp), 0;
     if (option == "--describe")
       return i + 1 < argc ? describe(fromUtf8(argv[i + 1])) : wrongUse("--describe needs a text");
     if (option == "--print")

@@ -2,8 +2,8 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QPushButton>
+#include <ctime>
 
 #include "desktop/desk.h"
 #include "platform/qt/layout.h"
@@ -54,12 +54,12 @@ TEST_CASE("a list of 20,000 entries is there at once and answers arrows at once"
   auto& all = form<FormOfAll>();
   all.show();
   all.List1.setFocus();
-  QElapsedTimer clock;
-  clock.start();
+  // Of the processor, so that a busy machine does not count.
+  const std::clock_t start = std::clock();
   for (int i = 0; i < 20'000; ++i) all.List1.add(u"ファイル" + fromUtf8(std::to_string(i)));
   Desk::letEventsRun();
   for (int i = 0; i < 100; ++i) Desk::press(Qt::Key_Down);
-  CHECK(clock.elapsed() < 2000);
+  CHECK(std::clock() - start < 2 * CLOCKS_PER_SEC);
   CHECK(all.List1.listIndex() == 99);
   auto& list = static_cast<QAbstractItemView&>(desk.widgetOf(all.List1));
   CHECK(list.currentIndex().row() == 99);
