@@ -19,6 +19,7 @@
 #include "stats/frequency/registerfrequency.h"
 #include "stats/twogroups/tform.h"
 #include "stats/twogroups/uform.h"
+#include "stats/variance/registervariance.h"
 #include "tablejobs/blocks/blocks.h"
 #include "tablejobs/extract/form7.h"
 #include "tablejobs/replace/registerreplace.h"
@@ -55,6 +56,7 @@ void wireProgram() {
   registerCrossTable();
   registerFactor();
   registerCluster();
+  registerVariance();
   narrateMenus();
   characterHooks.description = characterDescription;
   characterHooks.code = characterCode;

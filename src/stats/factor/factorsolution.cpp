@@ -5,7 +5,7 @@
 #include "platform/text/format.h"
 #include "platform/text/number.h"
 #include "platform/text/printline.h"
-#include "stats/factor/figures.h"
+#include "stats/frame/figures.h"
 #include "store/table/table.h"
 
 namespace zelko {

@@ -3,7 +3,7 @@
 #include "platform/text/format.h"
 #include "platform/text/printline.h"
 #include "platform/text/sjis.h"
-#include "stats/factor/figures.h"
+#include "stats/frame/figures.h"
 
 namespace zelko {
 

@@ -1,4 +1,4 @@
-#include "stats/factor/figures.h"
+#include "stats/frame/figures.h"
 
 #include <algorithm>
 
