@@ -5,10 +5,10 @@ namespace zelko {
 namespace {
 
 constexpr char kChapters[] =
-#include "manual_chapters.inc"
+#include <manual_chapters.inc>
     ;
 constexpr char kMenuLines[] =
-#include "manual_menu.inc"
+#include <manual_menu.inc>
     ;
 
 }  // namespace
