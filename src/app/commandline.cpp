@@ -11,12 +11,14 @@ namespace {
 constexpr const char* kUsage =
     "usage: zelko [--no-reader] [TABLE]\n"
     "       zelko --replay SCRIPT [--dir FOLDER] [TABLE]\n"
+    "       zelko --manual FOLDER\n"
     "\n"
     "Opens TABLE (a data file NAME.txt with its item file KNAME.txt beside it), or the start screen.\n"
     "\n"
     "  --no-reader      does not speak by itself; another reader of the clipboard is asked for\n"
     "  --replay SCRIPT  plays a script without a screen and prints the transcript (- reads standard input)\n"
     "  --dir FOLDER     the program's folder during a replay; the current one otherwise\n"
+    "  --manual FOLDER  prints the manual as a page of HTML, with the help texts of FOLDER\n"
     "  --help           this text\n"
     "  --version        the version\n"
     "  --               what follows is a table, also when it begins with -\n";
@@ -24,12 +26,14 @@ constexpr const char* kUsage =
 constexpr const char* kUsageJapanese =
     "使い方: zelko [--no-reader] [表]\n"
     "        zelko --replay 台本 [--dir フォルダ] [表]\n"
+    "        zelko --manual フォルダ\n"
     "\n"
     "表（データファイル 名前.txt と、その隣の項目ファイル K名前.txt）を開きます。省略すると、起動画面を開きます。\n"
     "\n"
     "  --no-reader      自分では読み上げず、クリップボードを読み上げるほかのソフトに任せます\n"
     "  --replay 台本    画面なしで台本を再生し、記録を出力します（- は標準入力）\n"
     "  --dir フォルダ   再生するときのプログラムのフォルダ。省略すると、いまのフォルダ\n"
+    "  --manual フォルダ  手引きを、フォルダの説明文とともに、HTMLのページとして出力します\n"
     "  --help           この説明\n"
     "  --version        版\n"
     "  --               このあとは、- で始まっていても表の名前です\n";
@@ -76,14 +80,11 @@ CommandLine readCommandLine(const std::vector<std::string>& arguments) {
     const bool optional = options && argument.size() > 1 && argument[0] == '-';
     if (optional && argument == "--") {
       options = false;
-    } else if (optional && (argument == "--replay" || argument == "--dir")) {
+    } else if (optional && (argument == "--replay" || argument == "--dir" || argument == "--manual")) {
       if (i + 1 == arguments.size()) return complaint(line, argument + " wants a name behind it");
-      if (argument == "--replay") {
-        replay = true;
-        line.script = arguments[++i];
-      } else {
-        line.folder = arguments[++i];
-      }
+      if (argument == "--manual") line.action = CommandLine::Action::manual;
+      replay = replay || argument == "--replay";
+      (argument == "--replay" ? line.script : line.folder) = arguments[++i];
     } else if (optional && readFlag(argument, line)) {
       continue;
     } else if (optional && argument[1] == '-') {
@@ -96,7 +97,8 @@ CommandLine readCommandLine(const std::vector<std::string>& arguments) {
     }
   }
   if (replay && line.action == CommandLine::Action::run) line.action = CommandLine::Action::replay;
-  if (!replay && !line.folder.empty()) return complaint(line, "--dir goes with --replay");
+  if (!replay && line.action != CommandLine::Action::manual && !line.folder.empty())
+    return complaint(line, "--dir goes with --replay");
   guardBlanks(line);
   return line;
 }

@@ -8,10 +8,11 @@ namespace zelko {
 
 struct CommandLine {
   // keepClipboard: what the program starts itself with, at its end.
-  enum class Action { run, replay, help, version, keepClipboard, wrong };
+  // manual: the manual as a page, for the package.
+  enum class Action { run, replay, help, version, keepClipboard, manual, wrong };
   Action action = Action::run;
   std::string script;     // of --replay; "-" is standard input
-  std::string folder;     // of --dir; empty: the current one
+  std::string folder;     // of --dir and --manual; empty: the current one
   std::string table;      // empty: the start screen
   bool reader = true;     // --no-reader
   std::string complaint;  // what is wrong

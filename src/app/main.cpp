@@ -7,6 +7,7 @@
 #include "app/commandline.h"
 #include "app/desktop/start.h"
 #include "app/wiring.h"
+#include "files/manual/manual.h"
 #include "platform/headless/replay.h"
 
 namespace {
@@ -52,6 +53,9 @@ int main(int argc, char** argv) {
       return 0;
     case CommandLine::Action::version:
       std::cout << "zelko " << ZELKO_VERSION << "\n";
+      return 0;
+    case CommandLine::Action::manual:
+      std::cout << manualHtml(manualBlocks(fromUtf8(line.folder) + u"/"));
       return 0;
     case CommandLine::Action::replay:
       return replay(line);

@@ -3,6 +3,7 @@
 #include "editor/registereditor.h"
 #include "files/csv/csvform.h"
 #include "files/design/design.h"
+#include "files/manual/manual.h"
 #include "files/output/output.h"
 #include "files/picker/picker.h"
 #include "files/start/help.h"
@@ -36,6 +37,7 @@ void wireProgram() {
   registerLunch();
   registerFilePicker();
   registerHelp();
+  registerManual();
   registerTableDesign();
   registerOutputFiles();
   registerCsv();

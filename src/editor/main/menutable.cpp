@@ -149,6 +149,7 @@ constexpr MenuRow kRows[] = {
     {1, u"mnuWRITE", u"ﾃｷｽﾄﾃﾞｰﾀの記入の仕方(&T)"},
     {1, u"mnuGUIDE", u"音声案内について(&O)"},
     {1, u"mnuREDME", u"readme(&R)"},
+    {1, u"mnuMANUAL", u"手引き(&M)"},
 };
 
 }  // namespace
