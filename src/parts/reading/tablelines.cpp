@@ -9,11 +9,13 @@ namespace zelko {
 
 namespace {
 
-bool isBlank(char16_t character) { return character == u' ' || character == u'\u3000' || character == u'\f'; }
+bool isBlank(char16_t character) {
+  return character == u' ' || character == u'\u3000' || character == u'\f' || character == u'|';
+}
 
 bool onlyParts(TextView cell) {
-  if (cell.find_first_not_of(u"-=") == TextView::npos) return true;
-  return cell == u":" || cell == u"：" || cell == u"," || cell == u"I" || cell == u"|";
+  if (cell.find_first_not_of(u"-=+･") == TextView::npos) return true;
+  return cell == u":" || cell == u"：" || cell == u"," || cell == u"I";
 }
 
 // Behind the last character of the cell that begins there.

@@ -19,9 +19,12 @@ struct Line {
 
   TextView cell(const TableToken& token) const { return text.substr(token.start, token.length); }
   bool isBlank() const { return trimmed(text).empty(); }
+  // Names only, or numbers behind the empty corner of a ruled table ("    |   1|   2|").
   bool isHead() const {
-    return !tokens.empty() && std::none_of(tokens.begin(), tokens.end(),
-                                           [this](const TableToken& token) { return isFigure(cell(token)); });
+    if (tokens.empty()) return false;
+    return trimmedLeft(text).starts_with(u'|') ||
+           std::none_of(tokens.begin(), tokens.end(),
+                        [this](const TableToken& token) { return isFigure(cell(token)); });
   }
 };
 
@@ -133,13 +136,14 @@ std::optional<TextCell> cellBeside(TextView text, std::size_t caret, CellMove mo
 }
 
 Text cellSentence(const TextCell& cell, const CellNames& names) {
-  const auto named = [&](const Text& name) {
-    const Text stands = names ? names(name, cell.start) : Text();
-    return stands.empty() ? name : stands;
+  const auto named = [&](NamedPart part, const Text& name) {
+    const Text stands = names ? names(part, name, cell.start) : Text();
+    return stands.empty() && part != NamedPart::whole ? name : stands;
   };
-  if (cell.row.empty()) return named(cell.value);
-  const Text column = cell.column.empty() ? Text() : u"と" + named(cell.column);
-  return named(cell.row) + column + u"、" + cell.value;
+  if (const Text whole = named(NamedPart::whole, cell.value); !whole.empty()) return whole + u"、" + cell.value;
+  if (cell.row.empty()) return named(NamedPart::row, cell.value);
+  const Text column = cell.column.empty() ? Text() : u"と" + named(NamedPart::column, cell.column);
+  return named(NamedPart::row, cell.row) + column + u"、" + cell.value;
 }
 
 bool walkTables(TextBox& box, KeyEvent& key, const CellNames& names) {

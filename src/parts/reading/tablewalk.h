@@ -23,8 +23,10 @@ std::optional<TextCell> cellBeside(TextView text, std::size_t caret, CellMove mo
 // The cell that the caret stands in.
 std::optional<TextCell> cellAt(TextView text, std::size_t caret);
 
-// What a name of a table stands for, by the position in the text; empty: it is said as it stands.
-using CellNames = std::function<Text(TextView name, std::size_t position)>;
+// What a name of a table stands for, by the position of the cell in the text; empty: it is said as it stands. `whole`
+// is asked first, with the cell's own text: what stands for row and column together.
+enum class NamedPart { whole, row, column };
+using CellNames = std::function<Text(NamedPart part, TextView name, std::size_t position)>;
 
 // "英語と数学、0.62".
 Text cellSentence(const TextCell& cell, const CellNames& names = {});

@@ -7,6 +7,7 @@
 #include "platform/text/format.h"
 #include "platform/text/number.h"
 #include "stats/correlation/itemform.h"
+#include "stats/correlation/paircells.h"
 #include "stats/correlation/pairwords.h"
 #include "stats/frame/analysis.h"
 #include "stats/frame/columns.h"
@@ -38,9 +39,11 @@ class PearsonReport {
   bool write(const ItemList& group1, const ItemList& group2);
   // The figures of few pairs; of many how many there are, and where rounding moved one most.
   Text spokenFigures() const;
+  CellNames cellNames() const { return cells_.names(); }
 
  private:
   void writePair(std::int16_t i, std::int16_t j);
+  void writeFigures(std::int16_t i, std::int16_t j, const numbers::Pearson& result);
   bool isTold(std::int16_t i, std::int16_t j) const;
 
   AnalysisRun& run_;
@@ -48,6 +51,7 @@ class PearsonReport {
   bool standardised_;
   std::int64_t done_ = 0;
   std::vector<Pair> pairs_;  // each two items once
+  PairCells cells_;
 };
 
 bool PearsonReport::write(const ItemList& group1, const ItemList& group2) {
@@ -70,9 +74,16 @@ void PearsonReport::writePair(std::int16_t i, std::int16_t j) {
   if (result.refused)
     report.line(u"cannot culc. for N<=1 or SD=0");
   else
-    report.line(PrintLine().number(i).text(u",").number(j).text(u",").number(result.n).text(u",").number(result.r));
+    writeFigures(i, j, result);
   if (isTold(i, j)) pairs_.push_back({i, j, result});
   ++done_;
+}
+
+void PearsonReport::writeFigures(std::int16_t i, std::int16_t j, const numbers::Pearson& result) {
+  const Text line =
+      PrintLine().number(i).text(u",").number(j).text(u",").number(result.n).text(u",").number(result.r).line();
+  cells_.add(run_.report().written(), line, i, j, {u"", u"", u"のＮ", u"の相関"});
+  run_.report().line(line);
 }
 
 bool PearsonReport::isTold(std::int16_t i, std::int16_t j) const {
@@ -121,6 +132,7 @@ void runPearson(frmRP& form, const ItemList& group1, const ItemList& marked2) {
   if (!report.write(group1, group2)) return run.stop();
   run.report().line(u"9999");
   run.report().line(PrintLine().text(u"RECORD").number(firstRecord).text(u"-").number(lastRecord));
+  run.nameCells(report.cellNames());
   run.finish(form, report.spokenFigures() + finishedSentence(kTitle));
 }
 

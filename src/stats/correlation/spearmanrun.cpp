@@ -3,6 +3,7 @@
 #include "platform/host.h"
 #include "platform/text/format.h"
 #include "platform/text/number.h"
+#include "stats/correlation/paircells.h"
 #include "stats/correlation/pairwords.h"
 #include "stats/frame/analysis.h"
 #include "stats/frame/columns.h"
@@ -50,24 +51,30 @@ void writeHead(Report& report, const Items& group1, const Items& group2) {
   report.line(kOmitsZeros ? TextView(u"/Omission 0 ") : TextView(u"/Not Omissio 0"));
 }
 
-void writeResult(Report& report, const numbers::Spearman& result) {
-  for (const int position : result.omitted)
-    report.line(PrintLine().text(u"     Invalid (A) [0] Data Nr=").number(position));
-  if (result.tooFew) return report.line(u"Ｎ＜２のため計算不能");
-  report.line(PrintLine()
-                  .text(u"   Rs=")
-                  .number(result.consistency)
-                  .text(u"  CONSISTENCY    ")
-                  .text(u"     Rs=")
-                  .number(result.correctness)
-                  .text(u"  CORRECTNESS"));
-  report.line(PrintLine().text(u"   n=").number(result.n).text(u"  CR=").number(result.cr));
-}
-
 struct Pair {
   std::int16_t i = 0, j = 0;
   numbers::Spearman result;
 };
+
+void writeResult(Report& report, const Pair& pair, PairCells& cells) {
+  const numbers::Spearman& result = pair.result;
+  for (const int position : result.omitted)
+    report.line(PrintLine().text(u"     Invalid (A) [0] Data Nr=").number(position));
+  if (result.tooFew) return report.line(u"Ｎ＜２のため計算不能");
+  const Text rs = PrintLine()
+                      .text(u"   Rs=")
+                      .number(result.consistency)
+                      .text(u"  CONSISTENCY    ")
+                      .text(u"     Rs=")
+                      .number(result.correctness)
+                      .text(u"  CORRECTNESS")
+                      .line();
+  cells.add(report.written(), rs, pair.i, pair.j, {u"", u"のRs、CONSISTENCY", u"", u"", u"のRs、CORRECTNESS", u""});
+  report.line(rs);
+  const Text cr = PrintLine().text(u"   n=").number(result.n).text(u"  CR=").number(result.cr).line();
+  cells.add(report.written(), cr, pair.i, pair.j, {u"", u"のＮ", u"", u"のCR"});
+  report.line(cr);
+}
 
 Text spokenPair(const Pair& pair) {
   Text said = pairWords(pair.i, pair.j) + markPause;
@@ -78,6 +85,7 @@ Text spokenPair(const Pair& pair) {
 
 // Fewer pairs than there should be where the user stopped it.
 std::vector<Pair> writePairs(AnalysisRun& run, const ItemColumns& columns, const Items& group1, const Items& group2) {
+  PairCells cells;
   std::vector<Pair> pairs;
   for (const std::int16_t i : group1) {
     for (const std::int16_t j : group2) {
@@ -86,10 +94,11 @@ std::vector<Pair> writePairs(AnalysisRun& run, const ItemColumns& columns, const
       run.tellStep(first + kLineEnd + second + u"　計算中．．．", first + markPause + second + u"　計算中．．．");
       for (const TextView line : {TextView(), TextView(first), TextView(second)}) run.report().line(line);
       pairs.push_back({i, j, numbers::spearman(columns.at(i), columns.at(j))});
-      writeResult(run.report(), pairs.back().result);
+      writeResult(run.report(), pairs.back(), cells);
       pairs.back().result.omitted.clear();
     }
   }
+  run.nameCells(cells.names());
   return pairs;
 }
 

@@ -7,6 +7,7 @@
 #include "stats/correlation/itemform.h"
 #include "stats/correlation/pairwords.h"
 #include "stats/crosstable/crosslines.h"
+#include "stats/crosstable/crossnames.h"
 #include "stats/crosstable/simulation.h"
 #include "stats/frame/analysis.h"
 #include "stats/frame/columns.h"
@@ -38,6 +39,7 @@ class CrossReport {
   // False where the user stopped it.
   bool write(const ItemList& group1, const ItemList& group2);
   Text closing() const;
+  CellNames cellNames() const { return names_.names(); }
 
  private:
   void writePair(std::int16_t i, std::int16_t j);
@@ -45,6 +47,7 @@ class CrossReport {
   AnalysisRun& run_;
   const ItemColumns& columns_;
   std::vector<PairDone> pairs_;
+  CrossNames names_;
 };
 
 bool CrossReport::write(const ItemList& group1, const ItemList& group2) {
@@ -63,7 +66,9 @@ void CrossReport::writePair(std::int16_t i, std::int16_t j) {
   const numbers::CrossTable table = numbers::crossTable(columns_.at(i), columns_.at(j));
   const numbers::CrossTest test = crossTest(table);
   run_.report().line(heading);
-  for (const Text& line : crossLines(table, test)) run_.report().line(line);
+  const std::vector<Text> lines = crossLines(table, test);
+  names_.add(run_.report().written(), lines, itemWord(i), itemWord(j));
+  for (const Text& line : lines) run_.report().line(line);
   run_.report().line(TextView());
   pairs_.push_back({i, j, test});
 }
@@ -101,6 +106,7 @@ void runCross(frmRP& form, const ItemList& group1, const ItemList& group2) {
   if (!columns) return run.stop();
   CrossReport report(run, *columns);
   if (!report.write(group1, group2)) return run.stop();
+  run.nameCells(report.cellNames());
   run.finish(form, report.closing(), true);
 }
 

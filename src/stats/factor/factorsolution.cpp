@@ -155,7 +155,8 @@ CellNames FactorSolution::cellNames() const {
   std::vector<Text> names;
   for (const std::int16_t item : items_) names.push_back(trimmed(itemName[static_cast<std::size_t>(item)]));
   const std::size_t loadingsEnd = scoresFrom_ > 0 ? scoresFrom_ : Text::npos;
-  return [names, loadingsEnd](TextView name, std::size_t position) -> Text {
+  return [names, loadingsEnd](NamedPart part, TextView name, std::size_t position) -> Text {
+    if (part == NamedPart::whole) return {};
     const bool isVariable = name.starts_with(u"X(");
     if (!isVariable && (name.size() != 4 || position >= loadingsEnd)) return {};
     const double number = val(isVariable ? name.substr(2) : name);

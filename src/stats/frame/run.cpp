@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "parts/disk/filewords.h"
+#include "parts/job/editorhooks.h"
 #include "parts/reading/helpform.h"
 #include "parts/reading/textfile.h"
 #include "stats/frame/analysis.h"
@@ -132,6 +133,10 @@ bool AnalysisRun::finish(Form& form, const Text& closing, bool repeats) {
   analysisMode.clear();
   if (!report_.close()) return false;
   lastFile() = report_.path();
+  {
+    const Silence silence;
+    editorHooks.reload(false);
+  }
   closeUnheard(form);
   const Text said = closing.empty() ? finishedSentence(title_) : closing;
   if (!repeats) {
@@ -157,8 +162,8 @@ void AnalysisRun::showWindow(const Text& opening, const Text& result) {
   window->setResult(result);
   if (window_ || !names_) return;
   const std::size_t shown = window->RichTextBox1.content().size(), before = shown - std::min(shown, report_.written());
-  window->setNames([names = names_, before](TextView name, std::size_t position) {
-    return position < before ? Text() : names(name, position - before);
+  window->setNames([names = names_, before](NamedPart part, TextView name, std::size_t position) {
+    return position < before ? Text() : names(part, name, position - before);
   });
 }
 

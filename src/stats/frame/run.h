@@ -53,7 +53,7 @@ class AnalysisRun {
   // Ends the run whose report is whole. The window shows the result file, the caret on this report; it has the focus.
   // `closing` is said then, without one the sentence that all reports end with. With
   // `repeats` FrmRepeat stands in front first and repeats it. The form of the analysis goes, so that Esc in the window
-  // leads to the cell. False, told, where the file was not written: the form stays.
+  // leads to the cell; the range is dropped. False, told, where the file was not written: the form stays.
   bool finish(Form& form, const Text& closing = {}, bool repeats = false);
   // Ends a run that was refused after its head was written: what stands in the report stays, the window goes.
   void refuse();
