@@ -1,5 +1,6 @@
 #include "app/wiring.h"
 
+#include "dial/telform.h"
 #include "editor/registereditor.h"
 #include "files/csv/csvform.h"
 #include "files/design/design.h"
@@ -57,6 +58,7 @@ void wireProgram() {
   registerFactor();
   registerCluster();
   registerVariance();
+  registerDialling();
   narrateMenus();
   characterHooks.description = characterDescription;
   characterHooks.code = characterCode;

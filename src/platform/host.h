@@ -43,9 +43,23 @@ class Printer {
 
 class SerialPort {
  public:
+  struct Line {
+    std::int32_t baud = 9600, byteSize = 8;
+    std::int32_t parity = 0;    // 0 none, 1 odd, 2 even, 3 mark, 4 space
+    std::int32_t stopBits = 0;  // 0 one, 1 one and a half, 2 two
+  };
+  static constexpr unsigned kCts = 16, kDsr = 32, kRing = 64, kRlsd = 128;  // of modemLines
+
   virtual ~SerialPort() = default;
+  // What a device has no way to is left as it was; false where it takes no settings at all.
+  virtual bool configure(const Line&) { return true; }
+  // False where not all of it was taken; never waits.
   virtual bool write(std::string_view bytes) = 0;
   virtual std::string read() = 0;  // what has arrived, never waits
+  // Which lines of the modem are on; nullopt where the device has none.
+  virtual std::optional<unsigned> modemLines() { return std::nullopt; }
+  // 1 receive queue full, 2 overrun, 4 parity, 8 frame, 16 break, 256 transmit queue full; since they were asked last.
+  virtual unsigned lineErrors() { return 0; }
 };
 
 // The talking character of the second speech channel.
@@ -113,8 +127,9 @@ class Host {
 
   virtual Character& character() = 0;
   virtual Printer& printer() = 0;
-  // Port 1 to 3; null where it can't be opened.
-  virtual std::unique_ptr<SerialPort> openSerial(int port) = 0;
+  // Port 1 to 3; null where it can't be opened. `device` stands for it where the environment names none; it may be
+  // empty.
+  virtual std::unique_ptr<SerialPort> openSerial(int port, TextView device) = 0;
 };
 
 // The host of the process, set before anything else runs.

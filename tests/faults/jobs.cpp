@@ -92,6 +92,7 @@ const std::vector<Job> kJobs = {
      "wait 1\nmenu mnuREAD\nwait 1\nfocus frmDISK.Command4\nkey Enter\nwait 1\ncommit neu\n# job\nkey Enter\nwait 2",
      "neu"},
     {"leave", Holds::records, "type x\nkey Enter\nmenu mnuEND"},
+    {"dial-settings", Holds::whole, "# job\nmenu mnuTEL\nwait 1\nclick frmTEL.Option1\nkey Esc\nwait 1", "zlkTEL"},
 };
 
 namespace {

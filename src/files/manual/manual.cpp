@@ -43,13 +43,15 @@ void addKeys(Blocks& blocks) {
 void addMenu(Blocks& blocks) {
   for (const MenuRow& row : menuRows()) {
     if (row.hidden) continue;
+    const Text meaning = menuExplanation(row.name);
     if (row.level == 0) {
       blocks.push_back({Kind::section, readableCaption(row.caption)});
+      if (!meaning.empty()) blocks.push_back({Kind::paragraph, meaning});
       continue;
     }
     const Text shortcut = row.shortcutCode ? nameOfKey(row.shortcutCode, row.shortcutMask) : Text();
     blocks.push_back({Kind::term, readableCaption(row.caption) + (shortcut.empty() ? u"" : u"、" + shortcut)});
-    if (const Text meaning = menuExplanation(row.name); !meaning.empty()) blocks.push_back({Kind::definition, meaning});
+    if (!meaning.empty()) blocks.push_back({Kind::definition, meaning});
   }
 }
 

@@ -192,7 +192,7 @@ bool HeadlessHost::sayOnClipboard(TextView sentence) {
   return true;
 }
 
-std::unique_ptr<SerialPort> HeadlessHost::openSerial(int port) {
+std::unique_ptr<SerialPort> HeadlessHost::openSerial(int port, TextView) {
   if (port < 1 || port > 3) return nullptr;
   const PortState& state = ports_[static_cast<std::size_t>(port - 1)];
   if (state == PortState::absent || state == PortState::busy) return nullptr;

@@ -65,7 +65,7 @@ class HeadlessHost : public Host {
   bool setClipboard(TextView text) override;
   Character& character() override { return character_; }
   Printer& printer() override { return printer_; }
-  std::unique_ptr<SerialPort> openSerial(int port) override;
+  std::unique_ptr<SerialPort> openSerial(int port, TextView device) override;
 
  private:
   struct Due {

@@ -3,7 +3,9 @@
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QDateTime>
+#include <QDesktopServices>
 #include <QTimer>
+#include <QUrl>
 #include <algorithm>
 #include <utility>
 
@@ -213,7 +215,11 @@ bool QtHost::sayOnClipboard(TextView sentence) {
   return putOnClipboard(sentence);
 }
 
-std::unique_ptr<SerialPort> QtHost::openSerial(int port) { return openSerialDevice(serialDevice(port)); }
+bool QtHost::openLink(TextView link) { return QDesktopServices::openUrl(QUrl(toQt(link))); }
+
+std::unique_ptr<SerialPort> QtHost::openSerial(int port, TextView device) {
+  return openSerialDevice(serialDevice(port, toUtf8(device)));
+}
 
 bool QtCharacter::load(TextView file) {
   fire(desktopHooks().onAgentFile, file);

@@ -67,7 +67,8 @@ class QtHost : public Host {
 
   Character& character() override { return character_; }
   Printer& printer() override { return printer_; }
-  std::unique_ptr<SerialPort> openSerial(int port) override;
+  std::unique_ptr<SerialPort> openSerial(int port, TextView device) override;
+  bool openLink(TextView link) override;
 
  private:
   using Clock = std::chrono::steady_clock;

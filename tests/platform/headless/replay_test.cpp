@@ -68,7 +68,7 @@ class Program : public SampleForm {
     tell(waits);
   }
   void dial() {
-    auto port = host().openSerial(2);
+    auto port = host().openSerial(2, {});
     if (!port) return tell(u"no port");
     if (!port->write("ATDT1;\r\n")) tell(u"refused");
     tell(u"answer " + fromUtf8(port->read()));
