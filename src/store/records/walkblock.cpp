@@ -86,19 +86,35 @@ void RecordBlock::settle(std::int32_t record) {
 
 bool RecordBlock::store(bool towardsHead, bool tell) {
   if (!waits()) return true;
-  const auto belongs = [&](std::int32_t one, std::int32_t next) {
-    const bool otherPage = (std::max(one, next) - 1) % kPageRecords == 0;
-    return stateOf(one) == stateOf(next) && !(towardsHead && otherPage);
-  };
   for (std::int32_t at = 0; at < count_;) {
-    const std::int32_t from = towardsHead ? first_ + count_ - 1 - at : first_ + at, step = towardsHead ? -1 : 1;
-    std::int32_t to = from;
-    for (++at; at < count_ && belongs(to, to + step); ++at) to += step;
+    const std::int32_t from = towardsHead ? first_ + count_ - 1 - at : first_ + at;
+    const std::int32_t length = lengthOfRun(from, towardsHead ? -1 : 1, count_ - at);
+    at += length;
+    const std::int32_t to = towardsHead ? from - length + 1 : from + length - 1;
     const bool waits = stateOf(from) == State::changed || stateOf(from) == State::made;
     if (waits && !storeRun(std::min(from, to), std::max(from, to), tell)) return false;
   }
   waiting_ = 0;
   return true;
+}
+
+// How many records from `from` on, at most `most`, are written at once or passed. Changed ones take along the unchanged
+// between them where they share pages of the file: one write costs less than many.
+std::int32_t RecordBlock::lengthOfRun(std::int32_t from, std::int32_t step, std::int32_t most) const {
+  const State state = stateOf(from);
+  std::int32_t length = 1;
+  for (std::int32_t ahead = 1; ahead < most; ++ahead) {
+    const std::int32_t record = from + ahead * step;
+    const bool newPageUpwards = step < 0 && record % kPageRecords == 0;
+    if (newPageUpwards) break;
+    if (stateOf(record) == state) {
+      length = ahead + 1;
+      continue;
+    }
+    const bool mayBridge = state == State::changed && stateOf(record) == State::clean && step > 0;
+    if (!mayBridge || ahead - length >= kPageRecords - 1) break;
+  }
+  return length;
 }
 
 bool RecordBlock::storeRun(std::int32_t first, std::int32_t last, bool tell) {
@@ -108,22 +124,25 @@ bool RecordBlock::storeRun(std::int32_t first, std::int32_t last, bool tell) {
     // One by one, so that what can be stored is, and what cannot is told with its reason.
     stored = true;
     for (std::int32_t record = first; record <= last && stored; ++record)
-      stored = putRec(file_, record, {bytesOf(record), recLen});
+      stored = stateOf(record) == State::clean || putRec(file_, record, {bytesOf(record), recLen});
   }
   if (stored) std::fill(states_.begin() + (first - first_), states_.begin() + (last - first_) + 1, State::clean);
   return stored;
 }
 
-// What stands on the disk by now, with the cells that we changed over it.
+// What stands on the disk by now, with the cells that we changed over it; a record that we did not change as it stands.
 bool RecordBlock::mergeOthers(std::int32_t first, std::int32_t last) {
   const std::size_t size = static_cast<std::size_t>(last - first + 1) * recLen;
   if (onDisk_.size() < size) onDisk_.resize(size);
   std::size_t got = 0;
   if (readBlock(file_, placeOf(first), onDisk_.data(), size, got) != FileError::none || got != size) return false;
-  const char* before = before_.data() + offset(first);
-  if (std::memcmp(onDisk_.data(), before, size) == 0) return true;
-  for (std::size_t at = 0; at < size; at += recLen)
-    keepOthersCells(bytesOf(first) + at, before + at, onDisk_.data() + at, shape_);
+  for (std::int32_t record = first; record <= last; ++record) {
+    const char* onDisk = onDisk_.data() + (record - first) * recLen;
+    if (stateOf(record) == State::clean)
+      std::memcpy(bytesOf(record), onDisk, recLen);
+    else if (const char* before = before_.data() + offset(record); std::memcmp(onDisk, before, recLen) != 0)
+      keepOthersCells(bytesOf(record), before, onDisk, shape_);
+  }
   return true;
 }
 

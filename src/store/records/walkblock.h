@@ -38,6 +38,8 @@ class RecordBlock {
 
   std::size_t offset(std::int32_t record) const { return static_cast<std::size_t>(record - first_) * recLen; }
   State& stateOf(std::int32_t record) { return states_[static_cast<std::size_t>(record - first_)]; }
+  State stateOf(std::int32_t record) const { return states_[static_cast<std::size_t>(record - first_)]; }
+  std::int32_t lengthOfRun(std::int32_t from, std::int32_t step, std::int32_t most) const;
   bool storeRun(std::int32_t first, std::int32_t last, bool tell);
   bool mergeOthers(std::int32_t first, std::int32_t last);
   bool writeRun(std::int32_t first, std::int32_t last);

@@ -4,16 +4,12 @@
 
 namespace zelko {
 
-namespace {}  // namespace
-
+// A full-width blank counts as a blank once forms are folded: so the ends are trimmed again.
 Matcher::Matcher(const SearchTerms& terms)
     : whole_(terms.whole),
       spelling_(terms.spelling),
-      wanted_(spelled(asStored(trimmed(terms.what)), spelling_)),
-      filter_(whole_ ? trimmed(wanted_) : wanted_, spelling_) {
-  // A full-width blank counts as a blank once forms are folded.
-  if (whole_) wanted_ = trimmed(wanted_);
-}
+      wanted_(trimmed(spelled(asStored(trimmed(terms.what)), spelling_))),
+      filter_(wanted_, spelling_) {}
 
 bool Matcher::hits(TextView cell) const {
   const Text text = spelled(trimmed(cell), spelling_);
