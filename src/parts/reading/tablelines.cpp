@@ -9,6 +9,10 @@ namespace zelko {
 
 namespace {
 
+constexpr TextView kOpening = u"([", kClosing = u")]";
+
+bool isOneOf(char16_t character, TextView signs) { return signs.find(character) != TextView::npos; }
+
 bool isBlank(char16_t character) {
   return character == u' ' || character == u'\u3000' || character == u'\f' || character == u'|';
 }
@@ -23,9 +27,9 @@ std::size_t endOfToken(TextView line, std::size_t start) {
   int open = 0;
   std::size_t at = start;
   for (; at < line.size(); ++at) {
-    if (isBlank(line[at]) && (open == 0 || line.find(u')', at) == TextView::npos)) break;
-    open += line[at] == u'(' ? 1 : 0;
-    open -= line[at] == u')' && open > 0 ? 1 : 0;
+    if (isBlank(line[at]) && (open == 0 || line.find_first_of(kClosing, at) == TextView::npos)) break;
+    open += isOneOf(line[at], kOpening) ? 1 : 0;
+    open -= isOneOf(line[at], kClosing) && open > 0 ? 1 : 0;
   }
   return at;
 }

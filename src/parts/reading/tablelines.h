@@ -13,8 +13,8 @@ struct TableToken {
   std::size_t left = 0, right = 0;    // columns: Shift-JIS bytes, `right` behind the last
 };
 
-// Parted by bars, half-width and full-width blanks; an open bracket holds them together ("X( 1 )"). What only parts
-// cells (":", ",", "I", "-") is none, and a rule has none.
+// Parted by bars, half-width and full-width blanks; an open bracket holds them together ("X( 1 )", "[*   ]"). What only
+// parts cells (":", ",", "I", "-") is none, and a rule has none.
 std::vector<TableToken> tokensOf(TextView line);
 
 // The one that shares most columns with that stretch, else the one whose right end is nearest; null for an empty list.

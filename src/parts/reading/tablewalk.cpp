@@ -135,10 +135,21 @@ std::optional<TextCell> cellBeside(TextView text, std::size_t caret, CellMove mo
   return cellOf(text, *next, *nearestToken(next->tokens, token ? token->left : 0, token ? token->right : 1));
 }
 
+namespace {
+
+// "[*     ]" is heard as what stands in it.
+Text unbracketed(const Text& name) {
+  if (!name.starts_with(u'[') || !name.ends_with(u']')) return name;
+  const Text inside = trimmed(TextView(name).substr(1, name.size() - 2));
+  return inside.empty() ? Text(u"ﾌﾞﾗﾝｸ") : inside;
+}
+
+}  // namespace
+
 Text cellSentence(const TextCell& cell, const CellNames& names) {
   const auto named = [&](NamedPart part, const Text& name) {
     const Text stands = names ? names(part, name, cell.start) : Text();
-    return stands.empty() && part != NamedPart::whole ? name : stands;
+    return stands.empty() && part != NamedPart::whole ? unbracketed(name) : stands;
   };
   if (const Text whole = named(NamedPart::whole, cell.value); !whole.empty()) return whole + u"、" + cell.value;
   if (cell.row.empty()) return named(NamedPart::row, cell.value);

@@ -1,5 +1,6 @@
 #include "platform/qt/window.h"
 
+#include <QAbstractScrollArea>
 #include <QCloseEvent>
 #include <QLabel>
 #include <QScreen>
@@ -149,9 +150,25 @@ void FormWindow::focusOn(const Control* control) {
   if (!widget) return setFocus(Qt::OtherFocusReason);
   widget->setFocus(Qt::OtherFocusReason);
   // The whole of it first: of a list or a text the second call looks at the current line alone.
-  const QRect place(widget->mapTo(page_, QPoint(0, 0)), widget->size());
-  scroll_->ensureVisible(place.center().x(), place.center().y(), 0, place.height() / 2 + 1);
-  scroll_->ensureWidgetVisible(widget);
+  showPlace({widget->mapTo(page_, QPoint(0, 0)), widget->size()});
+  if (qobject_cast<QAbstractScrollArea*>(widget)) scroll_->ensureWidgetVisible(widget);
+}
+
+// All of it; of what is larger than the window its begin, where none of it is seen yet from edge to edge.
+void FormWindow::showPlace(const QRect& place) {
+  const QRect seen({scroll_->horizontalScrollBar()->value(), scroll_->verticalScrollBar()->value()},
+                   scroll_->viewport()->size());
+  QPoint aim = place.center();
+  QSize margin = place.size() / 2 + QSize(1, 1);
+  if (place.width() > seen.width()) {
+    aim.setX(place.left() <= seen.left() && seen.right() <= place.right() ? seen.center().x() : place.left());
+    margin.setWidth(0);
+  }
+  if (place.height() > seen.height()) {
+    aim.setY(place.top() <= seen.top() && seen.bottom() <= place.bottom() ? seen.center().y() : place.top());
+    margin.setHeight(0);
+  }
+  scroll_->ensureVisible(aim.x(), aim.y(), margin.width(), margin.height());
 }
 
 void FormWindow::push(Control& control, Property property) {

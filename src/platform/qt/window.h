@@ -50,6 +50,7 @@ class FormWindow : public QWidget {
   QSize fittingSize() const;
   void takeSize(QSize size);
   void growSoon();
+  void showPlace(const QRect& place);
   void follow(FormWindow& above);
   void placeBelow();
   void keepWithin(int height);

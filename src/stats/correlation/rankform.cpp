@@ -74,7 +74,8 @@ void frmRS::wire() {
 void frmRS::wireBox(TextBox& box, TextView request) {
   box.onChange = [&box, request, previous = box.content()]() mutable {
     const Text before = std::exchange(previous, box.content());
-    talkGated(diffText(before, box.content()) + markStop + Text(request));
+    const Text over = typedOver(before, box.content());
+    talkGated((over.empty() ? diffText(before, box.content()) : over) + markStop + Text(request));
   };
   box.onGotFocus = [&box] { markWhole(box); };
 }

@@ -73,10 +73,26 @@ void CrossReport::writePair(std::int16_t i, std::int16_t j) {
   pairs_.push_back({i, j, test});
 }
 
+// Why there is no test of these tables.
+TextView refusalWords(numbers::CrossTest::Refusal refusal) {
+  using enum numbers::CrossTest::Refusal;
+  switch (refusal) {
+    case tooLarge:
+      return u"カテゴリーが多すぎるため";
+    case noTotal:
+      return u"数えられる記録がないため";
+    case emptyCell:
+      return u"度数が0のセルがあるため";
+    case none:
+      break;
+  }
+  return u"カテゴリーが一つしかないため";
+}
+
 Text spokenResult(const PairDone& pair) {
   const numbers::CrossTest& test = pair.test;
   Text said = pairWords(pair.i, pair.j) + markPause;
-  if (!pair.hasResult()) return said + u"ｶｲ検定不能。";
+  if (!pair.hasResult()) return said + Text(refusalWords(test.refusal)) + u"、ｶｲ検定不能。";
   said += u"ｶｲ自乗値" + format(test.chi, u"0.00") + u"、自由度" + decimal(test.df) + u"、連関値" +
           format(test.phi, u"0.000") + u"、確率" + spokenP(test.p) + u"。";
   if (test.chi > kChiPRightUpTo) said += exactSentence(test.exactP);

@@ -87,6 +87,7 @@ void frmDIST::wire() {
   Command5.onClick = [this] { frmDIST_Command5_Click(); };
   Command6.onClick = [this] { frmDIST_Command6_Click(); };
   Command7.onClick = [this] { frmDIST_Command7_Click(); };
+  appendHandler(CommandCheck.onClick, [this] { endAtCell(); });
   lblCR.onClick = [this] { frmDIST_lblCR_Click(); };
   lblCR.isDefault = true;
   Command6.isCancel = true;
@@ -325,6 +326,15 @@ void frmDIST::frmDIST_Command4_Click() {
 void frmDIST::frmDIST_Command7_Click() {
   drawSheet();
   savePictureAs(sheet_, lblITEM.caption(), pictureName(trimmed(itemName[static_cast<std::size_t>(item_)])));
+}
+
+// The check has led to a cell and hidden the form: the cell is heard, and the window of the table goes too.
+void frmDIST::endAtCell() {
+  if (visible()) return;
+  const Silence silence;
+  analysisMode.clear();
+  unload<frmHelp>();
+  screen().unload(*this);
 }
 
 void frmDIST::frmDIST_Command6_Click() {

@@ -8,6 +8,7 @@
 #include "platform/forms/grid.h"
 #include "stats/distribution/itemdistribution.h"
 #include "stats/distribution/shapewords.h"
+#include "stats/frame/datacheck.h"
 
 namespace zelko {
 
@@ -49,6 +50,8 @@ class frmDIST : public Form {
   Button Command5{*this, u"Command5", u"棒ｸﾞﾗﾌ/表"};
   Button Command7{*this, u"Command7", u"ﾋﾟｸﾁｬｰ保存"};
   Button Command4{*this, u"Command4", u"ﾌｫｰﾑ印刷"};
+  DataCheckButton CommandCheck{*this, RangeTest::start,
+                               [this] { return std::vector{static_cast<std::int16_t>(item_)}; }};
   Button lblCR{*this, u"lblCR", u"次項目(CR)"};
   Button Command6{*this, u"Command6", u"終(ESC)"};
 
@@ -68,6 +71,7 @@ class frmDIST : public Form {
   void frmDIST_Command5_Click();
   void frmDIST_Command6_Click();
   void frmDIST_Command7_Click();
+  void endAtCell();
 
   bool load();
   void draw();

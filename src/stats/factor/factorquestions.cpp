@@ -1,5 +1,6 @@
 #include "stats/factor/factorquestions.h"
 
+#include <algorithm>
 #include <limits>
 
 #include "parts/ask/ask.h"
@@ -17,6 +18,7 @@ constexpr TextView kLoadings = u"因子負荷の評価", kRotation = u"バリマ
 constexpr std::int32_t kMostCycles = 32767;
 constexpr double kLargest = 1e300;
 constexpr std::size_t kHeardEigenvalues = 10;
+constexpr std::int64_t kUsualFactors = 3;
 
 Text joined(std::initializer_list<TextView> lines) {
   Text text;
@@ -62,11 +64,13 @@ std::optional<std::vector<double>> askCommunalities(const std::vector<std::int16
 }
 
 std::optional<std::int32_t> askFactors(std::span<const double> full, std::span<const double> reduced, TextView label) {
-  return askWhole({.prompt = joined({u"上記相関マトリクスの固有値を参考に、因子数を指定して下さい。", u"因子数は？",
-                                     heard(u"固有値、対角1.0", full), heard(u"対角" + Text(label), reduced)}),
-                   .title = u"因子数の決定",
-                   .preset = u"3"},
-                  1, static_cast<std::int32_t>(full.size()));
+  // A factor beyond them has no loadings: its eigenvalue has no root.
+  const auto most = static_cast<std::int64_t>(std::ranges::count_if(reduced, [](double value) { return value >= 0; }));
+  Text prompt = joined({u"上記相関マトリクスの固有値を参考に、因子数を指定して下さい。", u"因子数は？",
+                        heard(u"固有値、対角1.0", full), heard(u"対角" + Text(label), reduced)});
+  if (most < kUsualFactors) prompt += Text(kBreak) + u"負でない固有値わ" + decimal(most) + u"個、因子数わそこまでです";
+  return askWhole({.prompt = prompt, .title = u"因子数の決定", .preset = decimal(std::min(most, kUsualFactors))}, 1,
+                  static_cast<std::int32_t>(full.size()));
 }
 
 std::optional<LoadingMethod> askLoadingMethod() {

@@ -34,7 +34,7 @@ class FrmBunsan3 : public Form {
   void narrate();
   void run(ThreeWayDesign design);
 
-  VarianceGrid result_{*this, Grid1, Command9, Command10, Command11, 8};
+  VarianceGrid result_{*this, Grid1, Command9, Command10, Command11, 10};
 };
 
 // The form and mnu3.

@@ -35,7 +35,7 @@ class frmBUNSAN2 : public Form {
   void analyseRange();
   void analyseGroups();
 
-  VarianceGrid result_{*this, Grid1, Command3, Command4, Command2, 5};
+  VarianceGrid result_{*this, Grid1, Command3, Command4, Command2, 6};
 };
 
 // The form and mnu2.

@@ -17,6 +17,10 @@ namespace {
 constexpr TextView kNoResult = u"まだ結果がありません";
 constexpr std::size_t kHeadRule = 48;
 
+// Until there is a result the columns stand as wide as one will be, so that the window has room for it.
+constexpr int kWaitingWidths[kVarianceColumns] = {0, 22, 22, 28, 32};
+constexpr int kCharacterTwips = 120;
+
 // The designs with three factors begin with their name, as the other analyses do; the others with a ruled head.
 void writeHead(Report& report, const VarianceResult& result) {
   if (result.layout == VarianceLayout::figures) return report.head(result.title);
@@ -44,6 +48,7 @@ VarianceGrid::VarianceGrid(Form& form, Grid& grid, Button& report, Button& folde
     sayResult();
   };
   clear();
+  for (int col = 1; col < kVarianceColumns; ++col) grid_.setColWidth(col, kWaitingWidths[col] * kCharacterTwips);
 }
 
 void VarianceGrid::narrate(Narration& voice) {
@@ -66,6 +71,7 @@ void VarianceGrid::show(VarianceResult result) {
   clear();
   filling_ = true;
   grid_.setRows(static_cast<int>(result.rows.size()) + 1);
+  for (int col = 1; col < kVarianceColumns; ++col) grid_.setColWidth(col, 0);
   int row = 0;
   for (const VarianceRow& source : result.rows) {
     ++row;
